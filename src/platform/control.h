@@ -1,0 +1,174 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// Passive parts of a window. They are plain data: the game reads and writes them, a desktop shows
+/// them. Nothing here paints, waits or calls back. Positions and sizes are in twips (1440 to the
+/// inch) from the top-left corner of the parent's client area, font sizes in points, border widths
+/// in pixels.
+namespace mevracard {
+
+struct Color {
+  std::uint8_t red = 0, green = 0, blue = 0;
+  bool operator==(const Color&) const = default;
+};
+
+struct Font {
+  const char* family = "MS Sans Serif";
+  float size = 8.25F;
+  bool bold = false;
+  bool italic = false;
+  bool operator==(const Font&) const = default;
+};
+
+enum class ControlKind { Label, Button, Frame, Line, Shape, ScrollBar };
+enum class Alignment { Left, Centre, Right };
+enum class ShapeForm { Rectangle, RoundedRectangle, Ellipse };
+
+/// Depth bands of a window, back to front. Moving a control to the front or back keeps its band.
+enum class Layer { Table, Cards, Panels };
+
+struct Frame;
+
+/// What every part has. `index` is the place in an array of like controls, -1 for a single one.
+struct Control {
+  explicit Control(ControlKind k) : kind(k) {}
+
+  ControlKind kind;
+  std::string_view name;
+  int index = -1;
+  bool visible = true;
+  bool enabled = true;
+  Layer layer = Layer::Table;
+  Frame* parent = nullptr;
+
+  /// "k(5)" for an array element, the bare name for a single control.
+  [[nodiscard]] std::string fullName() const;
+  /// Visible and enabled, and so is the frame around it.
+  [[nodiscard]] bool usable() const;
+};
+
+/// A control with a box.
+struct Box : Control {
+  using Control::Control;
+  float left = 0, top = 0, width = 0, height = 0;
+};
+
+struct Label : Box {
+  Label() : Box(ControlKind::Label) {}
+  std::string caption;
+  Font font;
+  Alignment alignment = Alignment::Left;
+  bool bordered = false;
+  bool opaque = true;  ///< painted on its back colour, else on what lies behind it
+  bool link = false;   ///< the pointer over it is a hand
+  Color backColor, foreColor;
+};
+
+struct Button : Box {
+  Button() : Box(ControlKind::Button) {}
+  std::string caption;
+  Font font;
+  bool keysOnly = false;  ///< takes the focus and keys, is never painted and never hit by the mouse
+  Color backColor{212, 208, 200}, foreColor;
+};
+
+/// A place in the window, in twips.
+struct Position {
+  float left = 0, top = 0;
+  bool operator==(const Position&) const = default;
+};
+
+/// A bordered panel with children of its own, `children` in depth order from back to front.
+struct Frame : Box {
+  Frame() : Box(ControlKind::Frame) {}
+  Color backColor;
+  std::vector<Control*> children;
+  /// The places it was moved through since it was last presented: a desktop may show them as a
+  /// glide and clears them; the frame itself already stands where the glide ends.
+  std::vector<Position> track;
+};
+
+struct Line : Control {
+  Line() : Control(ControlKind::Line) {}
+  float x1 = 0, y1 = 0, x2 = 0, y2 = 0;
+  Color borderColor;
+  std::int16_t borderWidth = 1;
+};
+
+struct Shape : Box {
+  Shape() : Box(ControlKind::Shape) {}
+  ShapeForm form = ShapeForm::Rectangle;
+  bool outlined = true;
+  bool filled = false;
+  bool dashed = false;  ///< outline drawn dash-dot-dot
+  Color borderColor, fillColor;
+  std::int16_t borderWidth = 1;
+};
+
+/// Horizontal scroll bar; `value` stays within `minimum` to `maximum`, both steps are 1.
+struct ScrollBar : Box {
+  ScrollBar() : Box(ControlKind::ScrollBar) {}
+  int minimum = 0, maximum = 100, value = 0;
+};
+
+/// One entry of the menu bar or of a menu; "&" in the caption marks the access key.
+struct MenuEntry {
+  std::string_view name;
+  std::string_view caption;
+  bool enabled = true;
+  bool checked = false;
+  std::vector<MenuEntry*> entries = {};
+  MenuEntry* parent = nullptr;
+
+  /// Enabled, and so is every menu that it stands in.
+  [[nodiscard]] bool usable() const;
+};
+
+/// Periodic timer of a window, in milliseconds. `armings` grows with every arming, so that a
+/// desktop starts the interval anew even when interval and state look the same as before.
+struct Timer {
+  bool enabled = false;
+  int interval = 0;
+  unsigned armings = 0;
+
+  void arm(int milliseconds);
+  void disarm() { enabled = false; }
+};
+
+/// A window.
+struct Form {
+  std::string_view name;
+  std::string caption;
+  float left = 0, top = 0, width = 0, height = 0;  ///< client size; left and top on the screen
+  bool maximized = false;
+  bool visible = false;
+  bool enabled = true;
+  Color backColor;
+  std::vector<Control*> controls;  ///< depth order from back to front; frames own their children
+  std::vector<MenuEntry*> menu;
+  Timer* timer = nullptr;
+  Control* focus = nullptr;         ///< the control that receives keys, null for none
+  Control* defaultFocus = nullptr;  ///< takes the focus over from a control that cannot hold it
+
+  /// Puts a control on the window, in front of the others of its layer.
+  void add(Control& control, std::string_view name, int index = -1);
+  /// Puts a control into a frame, in front of the frame's other children.
+  static void addTo(Frame& frame, Control& control, std::string_view name, int index = -1);
+  /// In front of (behind) all other controls of its layer, or of its frame.
+  void bringToFront(Control& control);
+  void sendToBack(Control& control);
+  /// Gives the focus to a usable button or scroll bar; else the focus stays.
+  void giveFocus(Control& control);
+  /// Moves the focus off a control that can no longer hold it.
+  void settleFocus();
+};
+
+/// Whether a control of this kind can hold the focus.
+[[nodiscard]] bool takesFocus(const Control& control);
+
+}  // namespace mevracard
