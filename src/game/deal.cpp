@@ -1,0 +1,45 @@
+#include "game/deal.h"
+
+#include <algorithm>
+#include <numeric>
+
+#include "game/leading_number.h"
+
+namespace mevracard {
+
+double dealSeedOf(std::string_view shortDate, int minute, int second) {
+  const auto tail = std::min<std::size_t>(4, shortDate.size());
+  const double year = leadingNumber(shortDate.substr(shortDate.size() - tail));
+  // The first second of an hour has no sum to divide by; 1 stands in for it.
+  const int sum = minute + second;
+  return year / (sum == 0 ? 1 : sum);
+}
+
+namespace {
+
+/// QUIRK-03: `v` never swaps with itself, so the permutation is one single cycle. One would expect
+/// every permutation; the player never sees the n-th pair (the 0-0 is the first) dealt to slot n.
+/// Meant.
+std::array<std::size_t, cardCount> singleCycle(const std::function<double()>& draw) {
+  std::array<std::size_t, cardCount> slots{};
+  std::iota(slots.begin(), slots.end(), std::size_t{0});
+  for (std::size_t v = cardCount; v-- > 0;) {
+    const auto j = static_cast<std::size_t>(draw() * static_cast<double>(v));
+    std::swap(slots[v], slots[j]);
+  }
+  return slots;
+}
+
+}  // namespace
+
+Deck shuffledDeck(const std::function<double()>& draw) {
+  const auto slots = singleCycle(draw);
+  Deck deck;
+  std::size_t n = 0;
+  for (int x = 0; x <= 6; ++x) {
+    for (int y = x; y <= 6; ++y) deck[slots[n++]] = {x, y};
+  }
+  return deck;
+}
+
+}  // namespace mevracard

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "game/state.h"
+
+/// What is left in the hands when a game ends.
+namespace mevracard {
+
+struct Leftover {
+  int sum = 0;    ///< of all numbers on the cards
+  int cards = 0;
+};
+
+/// The held cards of the slots `lo` to `hi`.
+[[nodiscard]] Leftover leftover(const GameState& s, int lo, int hi);
+
+/// Who wins a deadlock: the smaller sum, then the fewer cards; a full tie is the player's loss.
+[[nodiscard]] bool playerWinsDeadlock(const Leftover& player, const Leftover& computer);
+
+}  // namespace mevracard
