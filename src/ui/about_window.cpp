@@ -1,0 +1,97 @@
+#include "ui/about_window.h"
+
+#include "ui/design.h"
+#include "ui/main_window.h"
+
+namespace mevracard {
+
+namespace {
+
+constexpr std::string_view credits =
+    "Zub MevraCard, a game of dominoes.  Made by the Zub MevraCard developers.";
+constexpr std::string_view tipsHeading =
+    "TIPS OF GAME  (The content of help below changes according to the situation)";
+
+constexpr const char* serif = "Times New Roman";
+const LabelLook heading{paleGreen, black, {serif, 11.25F, true, true}};
+const LabelLook linkText{paleGreen, blue, {"MS Sans Serif", 9.75F}};
+const LabelLook bodyText{paleGreen, blue, {}};
+// The emblem's texts stand inside the card outlines, which must stay whole.
+const LabelLook cardText{paleGreen, blue, {serif, 9.75F}, Alignment::Centre, false, false};
+const LabelLook cardName{paleGreen, blue, {serif, 9.0F}, Alignment::Centre, false, false};
+
+// clang-format off
+void designEmblem(AboutWindow& w) {
+  design(w.triangle[0], 3000, 1440, 1680, 2160, activeTitleBar, 3);
+  design(w.triangle[1], 3000, 1440, 2760, 2160, activeTitleBar, 3);
+  design(w.triangle[2], 3000, 1440, 3240, 2160, activeTitleBar, 3);
+  design(w.triangle[3], 3000, 1440, 4440, 2160, activeTitleBar, 3);
+  design(w.triangle[4], 1680, 2160, 4440, 2160, emblemBlue, 5);
+  outline(w.cards[0], ShapeForm::Rectangle, {2040, 1800, 495, 735}, black);
+  outline(w.cards[1], ShapeForm::Rectangle, {3480, 1800, 495, 735}, black);
+  design(w.numbers[0], {2040, 1800, 495, 255}, "0",     cardText);
+  design(w.numbers[1], {2160, 2280, 255, 255}, "0",     cardText);
+  design(w.numbers[2], {3480, 1800, 495, 255}, "Zub",   cardText);
+  design(w.numbers[3], {3480, 2280, 495, 255}, "Mevra", cardName);
+  solid(w.apex, ShapeForm::Ellipse, {2880, 1320, 255, 255}, emblemBlue, emblemBlue);
+}
+// clang-format on
+
+template <typename Array>
+void addAll(Form& form, Array& controls, std::string_view name) {
+  for (std::size_t i = 0; i < controls.size(); ++i) {
+    form.add(controls[i], name, static_cast<int>(i));
+  }
+}
+
+}  // namespace
+
+AboutWindow::AboutWindow() {
+  form.name = "authormevra";
+  form.caption = "About this program";
+  form.backColor = paleGreen;
+  form.width = 6255;
+  form.height = 3540;
+
+  design(mainh, {120, 120, 6255, 615}, credits, heading);
+  design(Label1, {120, 720, 5895, 375}, "Click:  " + std::string(homepageAddress), linkText);
+  Label1.link = true;
+  designEmblem(*this);
+  design(additional, {120, 1200, 6015, 2175}, "", bodyText);
+  design(ctrcom, {2760, 2520, 972, 492}, "OK");
+
+  form.add(mainh, "mainh");
+  form.add(Label1, "Label1");
+  addAll(form, triangle, "triangle");
+  addAll(form, numbers, "numbers");
+  addAll(form, cards, "cards");
+  form.add(apex, "apex");
+  form.add(additional, "additional");
+  form.add(ctrcom, "ctrcom");
+  additional.visible = false;
+  ctrcom.visible = false;
+  form.defaultFocus = &ctrcom;
+}
+
+void author_Click(MainWindow& w) {
+  AboutWindow& about = w.authormevra;
+  w.desktop.show(about.form);
+  about.additional.visible = false;
+  about.mainh.caption = credits;
+  about.form.caption = "About this program";
+}
+
+void showTips(MainWindow& w) {
+  AboutWindow& about = w.authormevra;
+  w.desktop.show(about.form);
+  about.form.caption = "Tips of Game";
+  about.additional.visible = true;
+  about.additional.caption = w.state.tipText;
+  about.mainh.caption = tipsHeading;
+}
+
+void Label1_Click(MainWindow& w) { w.desktop.openAddress(homepageAddress); }
+
+void go_Click(MainWindow& w) { Label1_Click(w); }
+
+}  // namespace mevracard

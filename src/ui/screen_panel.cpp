@@ -1,0 +1,35 @@
+#include "ui/screen_panel.h"
+
+#include "store/saved_settings.h"
+
+namespace mevracard {
+
+namespace {
+
+void setPanelVisible(MainWindow& w, bool visible) {
+  w.ScreenControl.visible = visible;
+  w.MinMax.visible = visible;
+  w.scrctrl.visible = visible;
+  w.cmdscreen.visible = visible;
+  w.gambarscr.visible = visible;
+  for (auto& box : w.mntBox) box.visible = visible;
+  for (auto& line : w.mntLine) line.visible = visible;
+}
+
+}  // namespace
+
+void scr_Click(MainWindow& w) {
+  setPanelVisible(w, true);
+  w.how.enabled = false;
+  w.form.sendToBack(w.tanda);
+}
+
+void rufoxx_Click(MainWindow& w) { scr_Click(w); }
+
+void cmdscreen_Click(MainWindow& w) {
+  w.how.enabled = true;
+  setPanelVisible(w, false);
+  writeSettings(w, w.levels);
+}
+
+}  // namespace mevracard

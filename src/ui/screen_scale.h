@@ -1,0 +1,19 @@
+#pragma once
+
+#include "ui/main_window.h"
+
+namespace mevracard {
+
+/// Multiplies the place, size, font size and border width of the table's controls by `factor` and
+/// shows the table. Which controls: the tables in the source. Positions and font sizes are rounded
+/// to single precision, border widths to whole pixels, half to even.
+void ScreenScale(MainWindow& w, double factor);
+
+/// The scroll bar stands at a new screen size: rescales the table relative to the size before.
+void scrctrl_Change(MainWindow& w);
+
+/// A screen size (70 to 99) from the settings file: into the scroll bar and, once the table has
+/// been scaled by a first deal, onto the table.
+void takeSavedScreenValue(MainWindow& w, int screenValue);
+
+}  // namespace mevracard
