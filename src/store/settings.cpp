@@ -1,0 +1,38 @@
+#include "store/settings.h"
+
+#include "game/leading_number.h"
+
+namespace mevracard {
+
+namespace {
+
+constexpr int smallestScreen = 70, largestScreen = 99;
+
+std::string trimmed(const std::string& text) {
+  const auto begin = text.find_first_not_of(' ');
+  if (begin == std::string::npos) return "";
+  return text.substr(begin, text.find_last_not_of(' ') - begin + 1);
+}
+
+/// QUIRK-25: anything but "1" is level 2, a missing character included. One would expect bad fields
+/// to be refused; the player finds level 2 chosen. Meant.
+int levelAt(std::string_view text, std::size_t index) {
+  return index < text.size() && text[index] == '1' ? 1 : 2;
+}
+
+}  // namespace
+
+std::string settingsText(const LevelFields& levels, int screenValue) {
+  return trimmed(levels.player) + "/" + trimmed(levels.computer) + "/" +
+         std::to_string(screenValue) + "\r\n";
+}
+
+std::optional<SavedSettings> parseSettings(std::string_view text) {
+  const auto firstSix = text.substr(0, 6);
+  const auto size = firstSix.substr(firstSix.size() < 2 ? 0 : firstSix.size() - 2);
+  const double screenValue = leadingNumber(size);
+  if (screenValue < smallestScreen || screenValue > largestScreen) return std::nullopt;
+  return SavedSettings{levelAt(text, 0), levelAt(text, 2), static_cast<int>(screenValue)};
+}
+
+}  // namespace mevracard
