@@ -1,0 +1,105 @@
+// The texts of the two data files: what is read from odd ones, and the record's arithmetic.
+#include <gtest/gtest.h>
+
+#include "store/digit_code.h"
+#include "store/settings.h"
+#include "store/statistics.h"
+
+namespace mevracard {
+namespace {
+
+std::string record(std::string_view digits, std::string_view rest = "") {
+  return encodeDigits(digits) + std::string(rest) + "\r\n";
+}
+
+struct SettingsRow {
+  std::string_view text;
+  int player, computer, screen;  // screen 0: refused
+};
+
+// Reading is by position: each row breaks one assumption about what a settings file looks like.
+// QUIRK-25 (anything but "1" is level 2), QUIRK-26 (two digits of the size are read).
+TEST(Settings, AreReadByPosition) {
+  using std::string_view_literals::operator""sv;
+  for (const SettingsRow& row :
+       {SettingsRow{"1/1/99\r\n", 1, 1, 99}, {"2/1/85\r\n", 2, 1, 85}, {"1/2/70", 1, 2, 70},
+        {"0/1/85\r\n", 2, 1, 85}, {"9/9/72", 2, 2, 72}, {"1x1x99999", 1, 1, 99},
+        {"85", 2, 2, 85}, {"1/1/855\r\n", 1, 1, 85}, {"1//100\r\n", 0, 0, 0},
+        {"1/1/100\r\n", 0, 0, 0}, {"1/1/69\r\n", 0, 0, 0}, {"1/1/9\r\n", 0, 0, 0},
+        {"9/9/42", 0, 0, 0}, {"", 0, 0, 0}, {"1", 0, 0, 0}, {"abcdefgh", 0, 0, 0},
+        {"\0\0\0\0\0\0\0"sv, 0, 0, 0}, {"1/1/-9", 0, 0, 0}}) {
+    SCOPED_TRACE(row.text);
+    const auto settings = parseSettings(row.text);
+    ASSERT_EQ(settings.has_value(), row.screen != 0);
+    if (!settings) continue;
+    EXPECT_EQ(settings->playerLevel, row.player);
+    EXPECT_EQ(settings->computerLevel, row.computer);
+    EXPECT_EQ(settings->screenValue, row.screen);
+  }
+  EXPECT_EQ(settingsText({" 2 ", ""}, 100), "2//100\r\n");
+}
+
+// A table with a repeated code would decode some record wrongly.
+TEST(DigitCode, IsOneToOneAndDiffersByPosition) {
+  for (int n = 0; n <= 999; ++n) {
+    const std::string three = std::to_string(1000 + n).substr(1);
+    EXPECT_EQ(decodeDigits(encodeDigits(three + three)), three + three);
+  }
+  for (char digit = '0'; digit <= '9'; ++digit) {
+    const std::string code = encodeDigits(std::string(6, digit));
+    for (std::size_t p = 0; p < 12; p += 2) {
+      EXPECT_EQ(code.find(code.substr(p, 2)) % 2 == 0 ? code.find(code.substr(p, 2)) : p, p);
+    }
+  }
+  EXPECT_EQ(decodeDigits("no code here"), "");
+  EXPECT_EQ(decodeDigits(encodeDigits("123456") + "99999999"), "123456");
+}
+
+TEST(Statistics, CountAndKeepWhatFollowsTheRecord) {
+  EXPECT_EQ(updatedRecord(record("000000"), RecordMode::Won).text, record("001000"));
+  EXPECT_EQ(updatedRecord(record("009099", "tail"), RecordMode::Lost).text,
+            record("009100", "tail"));
+  EXPECT_EQ(updatedRecord(record("012345", "tail"), RecordMode::Clear).text,
+            record("000000", "tail"));
+  EXPECT_FALSE(updatedRecord(record("499499"), RecordMode::Won).startedAgain);
+}
+
+// QUIRK-28: at 999 games the counts begin again and the record holds the single digit 1, whoever
+// won; the next reading takes that digit for both counts.
+TEST(Statistics, StartAgainAt999) {
+  for (const RecordMode mode : {RecordMode::Won, RecordMode::Lost}) {
+    const RecordUpdate update = updatedRecord(record("500499", "tail"), mode);
+    EXPECT_TRUE(update.startedAgain);
+    EXPECT_EQ(update.text, encodeDigits("1") + "tail\r\n");
+  }
+  EXPECT_EQ(figuresOf(record("1")).won, 1);
+  EXPECT_EQ(figuresOf(record("1")).lost, 1);
+  EXPECT_EQ(updatedRecord(record("1"), RecordMode::Won).text, encodeDigits("0021") + "\r\n");
+}
+
+// QUIRK-34: the percentages are cut off.
+TEST(Statistics, ShowPercentages) {
+  const Figures figures = figuresOf(record("001002"));
+  EXPECT_EQ(figures.wonPercent, 33);
+  EXPECT_EQ(figures.lostPercent, 66);
+  EXPECT_EQ(figuresOf(record("000000")).wonPercent, 0);
+}
+
+// Torn and foreign files: nothing is read past the end, and the result is a file that reads again.
+TEST(Statistics, TakeAnyText) {
+  for (const std::string& text :
+       {std::string(), std::string("x"), std::string("\r\n"), encodeDigits("00000"),
+        std::string(13, '\0'), std::string(100000, 'z'), encodeDigits("001002")}) {
+    for (const RecordMode mode : {RecordMode::Clear, RecordMode::Won, RecordMode::Lost}) {
+      const Figures before = figuresOf(text);
+      const Figures after = figuresOf(updatedRecord(text, mode).text);
+      EXPECT_LE(before.wonPercent + before.lostPercent, 100);
+      EXPECT_LE(after.won + after.lost, 999 * 2);
+    }
+  }
+  EXPECT_EQ(figuresOf(updatedRecord("", RecordMode::Clear).text).lost, 0);
+  EXPECT_EQ(figuresOf(updatedRecord(encodeDigits("001002"), RecordMode::Won).text).won, 2);
+}
+
+}  // namespace
+}  // namespace mevracard
