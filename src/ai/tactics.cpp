@@ -21,6 +21,8 @@ NumberCounts playedCounts(const GameState& s) {
 }
 
 NumberCounts playerCounts(const GameState& s) {
+  // QUIRK-35: the computer looks into the player's hand. One would expect it to play by what lies
+  // on the table; at level 2 the player meets an opponent that knows every card. Meant.
   NumberCounts count{};
   for (std::size_t i = playerFirst; i <= playerLast; ++i) {
     if (s.held[i] != 1) continue;

@@ -44,6 +44,8 @@ void refuseCard(MainWindow& w, bool replyWasDue) {
   w.showTurn(replyWasDue ? computersTurn : yourTurn);
 }
 
+/// QUIRK-36: takes a card also while the computer's reply is due. One would expect the player to
+/// wait; several cards laid in time meet one reply, a second after the last of them. Meant.
 void laySelectedCard(MainWindow& w) {
   GameState& s = w.state;
   if (!isHeld(s, s.selectedCard)) return;

@@ -15,6 +15,8 @@ Leftover leftover(const GameState& s, int lo, int hi) {
 
 bool playerWinsDeadlock(const Leftover& player, const Leftover& computer) {
   if (player.sum != computer.sum) return player.sum < computer.sum;
+  // QUIRK-20: nothing is left to tell them apart, and still somebody wins. One would expect a draw;
+  // the player loses. Meant.
   return computer.cards > player.cards;
 }
 

@@ -48,6 +48,8 @@ void checkComputerLevel(MainWindow& w, int level) {
 void readSettings(MainWindow& w) {
   const auto saved = savedSettings(w.desktop);
   if (!saved) {
+    // QUIRK-38: one file that cannot be read resets the other as well. One would expect the record
+    // of games to survive a torn settings file; the player starts from no games. Meant.
     // QUIRK-24: the level fields stay empty after the files were made, so that the next level
     // command writes a torn line. One would expect the defaults "1" and "1"; the player finds other
     // levels at the next start but one. Meant.

@@ -31,6 +31,8 @@ class Scaler {
     border(line.borderWidth);
   }
   /// A width that no longer fits its 16 bits stays as it is.
+  /// QUIRK-33: rounded at every step. One would expect lines to grow and shrink with the table;
+  /// moving the scroll bar one by one never thins them. Meant.
   void border(std::int16_t& width) const {
     const double product = std::nearbyint(width * factor_);
     if (std::abs(product) <= std::numeric_limits<std::int16_t>::max()) {

@@ -118,7 +118,7 @@ TEST(Rules, LookAtHeldCardsOfTheRangeOnly) {
   EXPECT_FALSE(makesSameNumber(s, 0));
 }
 
-// The order of the tie-breaks, QUIRK-20 last: a full tie is the player's loss.
+// The order of the tie-breaks, QUIRK-20: a full tie is the player's loss.
 TEST(Scoring, DecidesADeadlock) {
   EXPECT_TRUE(playerWinsDeadlock({9, 5}, {10, 1}));
   EXPECT_FALSE(playerWinsDeadlock({11, 1}, {10, 5}));

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QString>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace mevracard {
+
+/// A file that a new data directory begins with.
+struct DefaultFile {
+  std::string name;
+  std::string text;
+};
+
+/// The program's data files: bytes by name, in one directory. Readers never see half a file, and of
+/// two programs that write at once neither undoes the other's work unseen.
+class DataFiles final {
+ public:
+  /// A directory that does not exist is made, with the default files in it; one that does exist
+  /// is taken as it is.
+  DataFiles(QString directory, const std::vector<DefaultFile>& defaults);
+
+  /// Throws PlatformError with the file's name and the reason, as all of them do.
+  [[nodiscard]] std::string read(std::string_view name) const;
+  /// Replaces the file as a whole; on failure the old one is untouched.
+  void write(std::string_view name, std::string_view text) const;
+  /// The same, only while the file still holds `expected`; false if it does not.
+  [[nodiscard]] bool exchange(std::string_view name, std::string_view expected,
+                              std::string_view text) const;
+
+ private:
+  [[nodiscard]] QString pathOf(std::string_view name) const;
+  void replace(std::string_view name, std::string_view text) const;
+
+  QString directory_;
+};
+
+}  // namespace mevracard

@@ -1,0 +1,49 @@
+#include "platform/qt/directory_lock.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+#include <QFile>
+#include <cerrno>
+#include <chrono>
+#include <system_error>
+#include <thread>
+
+#include "platform/desktop.h"
+
+namespace mevracard {
+
+namespace {
+
+using std::chrono::milliseconds;
+using std::chrono::steady_clock;
+
+constexpr milliseconds patience{2000};
+constexpr milliseconds pause{5};
+
+std::string reason(int error) { return std::generic_category().message(error); }
+
+}  // namespace
+
+DirectoryLock::DirectoryLock(const QString& directory)
+    : handle_(::open(QFile::encodeName(directory).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
+  if (handle_ < 0) throw PlatformError(reason(errno));
+  const auto end = steady_clock::now() + patience;
+  while (::flock(handle_, LOCK_EX | LOCK_NB) != 0) {
+    const int error = errno;
+    const bool busy = error == EWOULDBLOCK || error == EINTR;
+    if (busy && steady_clock::now() < end) {
+      std::this_thread::sleep_for(pause);
+      continue;
+    }
+    ::close(handle_);
+    throw PlatformError(busy ? "another program is writing" : reason(error));
+  }
+}
+
+DirectoryLock::~DirectoryLock() { ::close(handle_); }
+
+void DirectoryLock::flush() const { ::fsync(handle_); }
+
+}  // namespace mevracard

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QString>
+
+namespace mevracard {
+
+/// Keeps other programs of this kind from writing into a directory, as long as it lives. It leaves
+/// nothing behind, however the program ends.
+class DirectoryLock final {
+ public:
+  /// Throws PlatformError with the reason if the directory cannot be opened, or if another program
+  /// keeps it for longer than anyone needs.
+  explicit DirectoryLock(const QString& directory);
+  ~DirectoryLock();
+  DirectoryLock(const DirectoryLock&) = delete;
+  DirectoryLock& operator=(const DirectoryLock&) = delete;
+
+  /// Sees to it that a new name in the directory outlives a power cut.
+  void flush() const;
+
+ private:
+  int handle_;
+};
+
+}  // namespace mevracard

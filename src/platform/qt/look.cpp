@@ -1,0 +1,76 @@
+#include "platform/qt/look.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QStyleFactory>
+#include <algorithm>
+#include <cmath>
+
+namespace mevracard {
+
+namespace {
+
+constexpr double farAway = 100000;
+constexpr int largestFont = 500;
+
+int roundedPixels(float twips) { return static_cast<int>(std::lround(toPixels(twips))); }
+
+QStringList familiesOf(std::string_view family) {
+  if (family == "Times New Roman") return {"Liberation Serif", "Times New Roman", "Times", "serif"};
+  return {"Liberation Sans", "Arial", "Helvetica", "DejaVu Sans", "sans-serif"};
+}
+
+QPalette lightPalette() {
+  QPalette palette(QColor(226, 224, 218), QColor(240, 240, 240));
+  palette.setColor(QPalette::Base, Qt::white);
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    palette.setColor(role, Qt::black);
+    palette.setColor(QPalette::Disabled, role, QColor(140, 140, 140));
+  }
+  palette.setColor(QPalette::Highlight, QColor(0, 84, 166));
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  palette.setColor(QPalette::ToolTipBase, QColor(255, 255, 225));
+  palette.setColor(QPalette::ToolTipText, Qt::black);
+  return palette;
+}
+
+}  // namespace
+
+double toPixels(float twips) {
+  const double pixels = static_cast<double>(twips) / twipsPerLogicalPixel;
+  return std::isnan(pixels) ? 0 : std::clamp(pixels, -farAway, farAway);
+}
+
+QRect toPixelRect(const Box& box) {
+  const int left = roundedPixels(box.left);
+  const int top = roundedPixels(box.top);
+  const int right = roundedPixels(box.left + box.width);
+  const int bottom = roundedPixels(box.top + box.height);
+  return {left, top, std::max(0, right - left), std::max(0, bottom - top)};
+}
+
+QColor toColor(Color color) { return {color.red, color.green, color.blue}; }
+
+QFont toFont(const Font& font) {
+  constexpr double pixelsPerPoint = 96.0 / 72.0;
+  const double pixels = std::clamp(font.size * pixelsPerPoint, 1.0, double{largestFont});
+  QFont result;
+  result.setFamilies(familiesOf(font.family));
+  result.setPixelSize(static_cast<int>(std::lround(pixels)));
+  result.setBold(font.bold);
+  result.setItalic(font.italic);
+  return result;
+}
+
+QString toText(std::string_view text) {
+  QString result = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+  return result.replace("\r\n", "\n").replace('\r', '\n');
+}
+
+void applyLook() {
+  QApplication::setStyle(QStyleFactory::create("Fusion"));
+  QApplication::setPalette(lightPalette());
+  QApplication::setFont(toFont({"MS Sans Serif", 9.75F}));
+}
+
+}  // namespace mevracard

@@ -1,0 +1,41 @@
+#include "platform/qt/menu.h"
+
+#include <QMenu>
+#include <utility>
+
+#include "platform/qt/look.h"
+
+namespace mevracard {
+
+Menu::Menu(QMenuBar& bar, const std::vector<MenuEntry*>& entries,
+           std::function<void(MenuEntry&)> chosen)
+    : chosen_(std::move(chosen)) {
+  bar.setNativeMenuBar(false);
+  add(bar, entries);
+}
+
+void Menu::add(QWidget& parent, const std::vector<MenuEntry*>& entries) {
+  for (MenuEntry* entry : entries) {
+    auto* action = new QAction(toText(entry->caption), &parent);
+    action->setObjectName(toText(entry->name));
+    parent.addAction(action);
+    items_.push_back({entry, action});
+    if (entry->entries.empty()) {
+      QObject::connect(action, &QAction::triggered, &parent, [this, entry] { chosen_(*entry); });
+    } else {
+      auto* menu = new QMenu(&parent);
+      action->setMenu(menu);
+      add(*menu, entry->entries);
+    }
+  }
+}
+
+void Menu::flush() {
+  for (const Item& item : items_) {
+    item.action->setEnabled(item.entry->enabled);
+    item.action->setCheckable(item.entry->checked);
+    item.action->setChecked(item.entry->checked);
+  }
+}
+
+}  // namespace mevracard
