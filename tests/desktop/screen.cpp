@@ -1,0 +1,128 @@
+#include "screen.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QMessageBox>
+#include <QScreen>
+#include <QtTest/QTest>
+#include <numeric>
+
+#include "store/statistics.h"
+
+namespace mevracard {
+
+namespace {
+
+QString folderWith(const QTemporaryDir& home, const char* settings) {
+  QFile file(home.filePath("wdx.sys"));
+  (void)file.open(QIODevice::WriteOnly);
+  file.write(settings);
+  QFile record(home.filePath("sys32rtn.dat"));
+  (void)record.open(QIODevice::WriteOnly);
+  record.write(QByteArray::fromStdString(emptyRecordText()));
+  return home.path();
+}
+
+}  // namespace
+
+SteadyDesktop::SteadyDesktop(const QString& dataDir, int seed) : QtDesktop(dataDir, {}) {
+  random_.seed(seed);
+}
+
+Screen::Screen(int seed, const char* settings)
+    : desktop_(folderWith(home_, settings), seed), program_(desktop_) {
+  QObject::connect(&closer_, &QTimer::timeout, [this] { closeMessageBox(); });
+  closer_.start(30);
+}
+
+void Screen::closeMessageBox() {
+  auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+  if (box == nullptr || !box->isActiveWindow()) return;
+  messages.push_back(box->text().toStdString());
+  QTest::keyClick(box, Qt::Key_Return);
+}
+
+void Screen::start() {
+  program_.start();
+  waitFor([] { return QApplication::activeWindow() != nullptr; });
+  settle(200);
+}
+
+QWidget& Screen::mainWidget() const {
+  for (QWidget* top : QApplication::topLevelWidgets()) {
+    if (top->objectName() == "mevraku") return *top;
+  }
+  throw std::runtime_error("there is no main window");
+}
+
+QWidget& Screen::widget(const Control& control) const {
+  const QString name = QString::fromStdString(control.fullName());
+  for (QWidget* candidate : QApplication::allWidgets()) {
+    if (candidate->objectName() == name && candidate->isVisible()) return *candidate;
+  }
+  throw std::runtime_error("not on the screen: " + control.fullName());
+}
+
+void Screen::tool(const QStringList& arguments) { QProcess::execute("xdotool", arguments); }
+
+void Screen::click(const Control& control) {
+  const QPoint at = widget(control).mapToGlobal(widget(control).rect().center());
+  tool({"mousemove", QString::number(at.x()), QString::number(at.y()), "click", "1"});
+}
+
+void Screen::doubleClick(const Control& control) {
+  const QPoint at = widget(control).mapToGlobal(widget(control).rect().center());
+  tool({"mousemove", QString::number(at.x()), QString::number(at.y()), "click", "--repeat", "2",
+        "--delay", "20", "1"});
+}
+
+void Screen::key(const std::string& name) { tool({"key", QString::fromStdString(name)}); }
+
+bool Screen::waitFor(const std::function<bool()>& condition, int patience) {
+  QElapsedTimer time;
+  time.start();
+  while (!condition()) {
+    if (time.elapsed() > patience) return false;
+    QTest::qWait(5);
+  }
+  return true;
+}
+
+void Screen::settle(int milliseconds) { QTest::qWait(milliseconds); }
+
+void Screen::shoot(const std::string& name) {
+  settle(250);
+  const QPixmap picture = QGuiApplication::primaryScreen()->grabWindow(0);
+  picture.save(QString::fromStdString(name) + ".png");
+}
+
+QPoint Screen::pointer() {
+  QProcess process;
+  process.start("xdotool", {"getmouselocation", "--shell"});
+  process.waitForFinished();
+  QPoint at;
+  for (const QByteArray& line : process.readAllStandardOutput().split('\n')) {
+    if (line.startsWith("X=")) at.setX(line.mid(2).toInt());
+    if (line.startsWith("Y=")) at.setY(line.mid(2).toInt());
+  }
+  return at;
+}
+
+std::string brokenInvariant(const GameState& s) {
+  const auto count = [&s](int from) {
+    return std::accumulate(s.held.begin() + from, s.held.begin() + from + handSize, 0);
+  };
+  if (count(0) != s.sisa[1]) return "the player's count is not the hand";
+  if (count(handSize) > s.sisa[0]) return "the computer's count is below the hand";
+  if (s.lina + s.linb + 1 != cardCount - count(0) - count(handSize)) {
+    return "the ends' counts are not the table";
+  }
+  for (const auto& [card, number] : {std::pair{s.k0, s.kotak[0]}, std::pair{s.k1, s.kotak[1]}}) {
+    const auto i = static_cast<std::size_t>(card.value_or(0));
+    if (s.a[i] != number && s.b[i] != number) return "an end's number is not on its card";
+  }
+  return "";
+}
+
+}  // namespace mevracard

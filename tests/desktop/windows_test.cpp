@@ -1,0 +1,159 @@
+// Menus, the other windows, the screen size and covered cards, as they stand on the screen.
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QRegularExpression>
+#include <QPixmap>
+#include <QScreen>
+#include <QScrollBar>
+#include <QtTest/QTest>
+
+#include "game/rules.h"
+#include "guide/tip_text.h"
+#include "screen.h"
+
+namespace mevracard {
+namespace {
+
+void chooseFromMenu(Screen& screen, std::initializer_list<const char*> keys) {
+  for (const char* key : keys) {
+    screen.key(key);
+    screen.settle(120);
+  }
+}
+
+/// All texts that assistive technology reads in a part of the window.
+QString spokenTexts(QAccessibleInterface* part) {
+  QString texts = part->text(QAccessible::Name) + part->text(QAccessible::Description) +
+                  part->text(QAccessible::Value);
+  for (int i = 0; i < part->childCount(); ++i) {
+    QAccessibleInterface* child = part->child(i);
+    if (child != nullptr && !child->state().invisible) texts += spokenTexts(child);
+  }
+  return texts;
+}
+
+// Access keys and check marks; a level deals anew without the abort message.
+TEST(Menus, AnswerAccessKeys) {
+  Screen screen;
+  screen.start();
+  MainWindow& w = screen.window();
+  chooseFromMenu(screen, {"alt+f", "c", "2"});
+  ASSERT_TRUE(screen.waitFor([&] { return w.cl2.checked && screen.messages.size() == 2; }));
+  EXPECT_FALSE(w.cl1.checked);
+  chooseFromMenu(screen, {"alt+f", "s"});
+  ASSERT_TRUE(screen.waitFor([&] { return w.kalahmenang.form.visible; }));
+  screen.shoot("statistics");
+  EXPECT_FALSE(w.form.enabled);
+  screen.key("Return");
+  ASSERT_TRUE(screen.waitFor([&] { return w.form.enabled; }));
+  chooseFromMenu(screen, {"alt+h", "a"});
+  ASSERT_TRUE(screen.waitFor([&] { return w.authormevra.form.visible; }));
+  screen.shoot("about");
+  chooseFromMenu(screen, {"alt+F4"});
+  ASSERT_TRUE(screen.waitFor([&] { return !w.authormevra.form.visible; }));
+  chooseFromMenu(screen, {"alt+f", "n"});
+  ASSERT_TRUE(screen.waitFor([&] { return screen.messages.size() == 4; }));
+  EXPECT_EQ(screen.messages[2], "Aborting makes you lose this game");
+}
+
+// The longest tip must be read without scrolling.
+TEST(Tips, FitTheirWindow) {
+  Screen screen;
+  screen.start();
+  MainWindow& w = screen.window();
+  screen.state().tipText = tipHeading() + sameNumberTip(3, 5);
+  chooseFromMenu(screen, {"alt+h", "t"});
+  ASSERT_TRUE(screen.waitFor([&] { return w.authormevra.form.visible; }));
+  screen.shoot("tips");
+  for (const auto* bar : screen.widget(w.authormevra.additional).findChildren<QScrollBar*>()) {
+    EXPECT_FALSE(bar->isVisible());
+  }
+}
+
+/// The computer holds every 0, so that the player cannot answer the opening.
+Deck deckWithoutZeros() {
+  Deck deck;
+  std::size_t players = 0;
+  std::size_t computers = handSize;
+  for (int x = 0; x <= 6; ++x) {
+    for (int y = x; y <= 6; ++y) {
+      const bool toComputer = x == 0 || players == handSize;
+      deck[toComputer ? computers++ : players++] = {x, y};
+    }
+  }
+  return deck;
+}
+
+// The close box of the pass popup is its OK: the main window must never stay disabled.
+TEST(Tips, CloseBoxAfterAPassCountsAsOk) {
+  Screen screen;
+  MainWindow& w = screen.window();
+  w.stackedDeck = deckWithoutZeros();
+  screen.start();
+  ASSERT_TRUE(w.authormevra.ctrcom.visible);
+  EXPECT_FALSE(w.form.enabled);
+  screen.shoot("opening-pass");
+  screen.key("alt+F4");
+  ASSERT_TRUE(screen.waitFor([&] { return w.form.enabled; }));
+  EXPECT_EQ(w.state.sisa[3], 1);
+  ASSERT_TRUE(screen.waitFor([&] { return w.state.lina + w.state.linb > 0; }));
+}
+
+// A covered card must give nothing away, neither to the eye nor to a screen reader.
+TEST(CoveredCards, TellNothing) {
+  Screen screen(3, "2/1/85\r\n");
+  screen.start();
+  MainWindow& w = screen.window();
+  ASSERT_TRUE(screen.waitFor([&] { return !w.jam.enabled; }));
+  screen.shoot("covered");
+  QAccessible::setActive(true);
+  int covered = 0;
+  for (std::size_t i = computerFirst; i <= computerLast; ++i) {
+    if (!w.luar1[i].visible) continue;
+    ++covered;
+    QWidget& card = screen.widget(w.k[i]);
+    const QString texts = spokenTexts(QAccessible::queryAccessibleInterface(&card));
+    EXPECT_FALSE(texts.contains(QRegularExpression("[0-9]"))) << texts.toStdString();
+    EXPECT_THROW((void)screen.widget(w.a[i]), std::runtime_error);
+  }
+  EXPECT_GT(covered, 5);
+}
+
+QImage pictureOfTable(Screen& screen) {
+  screen.settle(200);
+  return screen.mainWidget().grab().toImage();
+}
+
+// Step by step down to 70 and back must end on the picture of a fresh start.
+TEST(ScreenSize, ComesBackToTheSamePicture) {
+  Screen screen;
+  screen.start();
+  MainWindow& w = screen.window();
+  ASSERT_TRUE(screen.waitFor([&] { return !w.jam.enabled; }));
+  screen.tool({"mousemove", "5", "5"});
+  const QImage fresh = pictureOfTable(screen);
+  chooseFromMenu(screen, {"alt+o"});
+  ASSERT_TRUE(screen.waitFor([&] { return w.scrctrl.visible; }));
+  screen.shoot("panel");
+  auto& bar = dynamic_cast<QScrollBar&>(screen.widget(w.scrctrl));
+  for (int round = 0; round < 20; ++round) {
+    for (int value = 98; value >= 70; --value) bar.triggerAction(QAbstractSlider::SliderSingleStepSub);
+    ASSERT_EQ(w.scrctrl.value, 70);
+    if (round == 0) screen.shoot("smallest");
+    for (int value = 71; value <= 99; ++value) bar.triggerAction(QAbstractSlider::SliderSingleStepAdd);
+    ASSERT_EQ(w.scrctrl.value, 99);
+  }
+  screen.click(w.cmdscreen);
+  ASSERT_TRUE(screen.waitFor([&] { return !w.scrctrl.visible; }));
+  screen.tool({"mousemove", "5", "5"});
+  const QImage after = pictureOfTable(screen);
+  int different = 0;
+  for (int y = 0; y < fresh.height(); ++y) {
+    for (int x = 0; x < fresh.width(); ++x) different += fresh.pixel(x, y) != after.pixel(x, y);
+  }
+  EXPECT_LT(different, fresh.width() * fresh.height() / 1000);
+}
+
+}  // namespace
+}  // namespace mevracard
