@@ -4,6 +4,7 @@
 #include "game/rules.h"
 #include "guide/tip_text.h"
 #include "guide/tips.h"
+#include "ui/card_cover.h"
 
 namespace mevracard {
 
@@ -17,7 +18,11 @@ constexpr int popupGap = 30;
 
 /// QUIRK-12: card 13 is selected without being marked. One would expect no selection; Enter or
 /// Space lays card 13 if it is held and fits, and 'p' goes on from there. Meant.
-void selectLastCard(MainWindow& w) { w.state.selectedCard = 13; }
+void selectLastCard(MainWindow& w) {
+  const auto before = static_cast<std::size_t>(w.state.selectedCard);
+  if (before < handSize) paintNumbers(w, before, handColour);
+  w.state.selectedCard = 13;
+}
 
 bool turnWasPlain(const MainWindow& w) {
   const GameState& s = w.state;

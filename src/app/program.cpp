@@ -91,14 +91,14 @@ std::string_view nameOf(const Event& event) {
 }
 
 /// Keys of the main window: the choice takes its own, Esc cancels it wherever the focus is, and
-/// what the focused control has no use for goes to the Discard button.
+/// the keys of the player's turn that the focused control has no use for go to the Discard button.
 void pressKey(MainWindow& w, const Event& event) {
   const int key = event.value;
   if (choiceIsOpen(w) && (event.control == &w.hilang || key == keyEscape)) {
     hilang_KeyPress(w, key);
   } else if (key == keyEnter || key == keySpace) {
     mulai_Click(w);
-  } else if (w.mulai.usable()) {
+  } else if (w.mulai.usable() && (event.control == &w.mulai || key == 'p' || key == 'P')) {
     mulai_KeyPress(w, key);
   }
 }

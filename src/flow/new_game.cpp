@@ -51,13 +51,22 @@ void takeUpHands(MainWindow& w) {
   }
 }
 
+/// A screen that has changed since the table was sized changes the table with it.
+void takeScreenHeight(MainWindow& w) {
+  const int before = w.state.screenHeight;
+  const int now = w.desktop.screenHeight();
+  w.state.screenHeight = now;
+  const bool sized = w.state.firstDealDone.value_or(0) != 0 && before > 0;
+  if (sized && now != before) ScreenScale(w, static_cast<double>(now) / before);
+}
+
 }  // namespace
 
 void Form_Load(MainWindow& w) {
   // Nothing that the game before had under way may reach the new one.
   w.jam.disarm();
   closeChoice(w);
-  w.state.screenHeight = w.desktop.screenHeight();
+  takeScreenHeight(w);
   w.state.theend = 0;
   w.mulai.visible = true;
   w.mulai.width = 0;
@@ -86,6 +95,8 @@ void Awal(MainWindow& w) {
     w.jam.arm(1000);
   } else if (playerIsStuck(s)) {
     // The six other cards with a 0 are all the computer's: there is nothing to move.
+    w.jam.disarm();
+    if (w.cmdCL.visible) s.demoDone = 0;  // or the tick after its OK would call it the player's turn
     announcePlayersPass(w);
   }
 }

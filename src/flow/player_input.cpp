@@ -19,7 +19,11 @@ bool isHeld(const GameState& s, int card) {
   return s.held.at(static_cast<std::size_t>(card)) == 1;
 }
 
-bool gameTakesCards(const MainWindow& w) { return w.mulai.visible && w.state.theend == 0; }
+/// During the tutorial the player's cards are played by NEXT alone; after the end by nobody, also
+/// when a new table size has shown the Discard button again.
+bool gameTakesCards(const MainWindow& w) {
+  return w.mulai.visible && w.state.theend == 0 && !w.lblHow.visible;
+}
 
 /// A card on the table is never played again, so the choice is for held ones only.
 bool offersChoice(const GameState& s, int card) {
@@ -98,7 +102,7 @@ void k_DblClick(MainWindow& w, int card) {
 
 void mulai_KeyPress(MainWindow& w, int key) {
   closePanel(w);
-  if (key != 'p' && key != 'P') return;
+  if ((key != 'p' && key != 'P') || !gameTakesCards(w)) return;
   GameState& s = w.state;
   const auto current = static_cast<std::size_t>(s.selectedCard);
   w.a.at(current).backColor = handColour;

@@ -46,6 +46,8 @@ void playDemonstratedCard(MainWindow& w) {
 /// double-click, a pause, and the play.
 void demonstrate(MainWindow& w) {
   GameState& s = w.state;
+  // Played, or given up: the timer may go on, but the pointer has arrived.
+  if (s.demoBusy != 1) return;
   const double dx = s.n1, dy = s.n2, x0 = s.n3, y0 = s.n4;
   const int i = ++s.demoTick;
   const int steps = static_cast<int>(std::sqrt(dx * dx + dy * dy) / 10);
@@ -72,6 +74,8 @@ void MoveMouse(MainWindow& w, float x, float y) {
 
 void jam_Timer(MainWindow& w) {
   GameState& s = w.state;
+  // While another window has disabled this one no move is made; the timer goes on and comes again.
+  if (!w.form.enabled) return;
   if (s.demoMove == 1) {
     if (s.demoDone == 1) {
       w.showTurn(yourTurn);

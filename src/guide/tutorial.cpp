@@ -71,6 +71,7 @@ void letComputerMove(MainWindow& w) {
   s.tipText = computerMovedTip() + s.tipText;
   // QUIRK-31: NEXT during the glide gives up the demonstrated move and lets the computer move at
   // once. One would expect it to wait; the player sees the computer move twice in a row. Meant.
+  // The marks of the given-up move go, or the player would take them for the next one's.
   if (s.demoBusy == 1) unmark(w);
   s.demoBusy = 0;
   komputer(w);

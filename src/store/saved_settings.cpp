@@ -51,8 +51,8 @@ void readSettings(MainWindow& w) {
     // QUIRK-38: one file that cannot be read resets the other as well. One would expect the record
     // of games to survive a torn settings file; the player starts from no games. Meant.
     // QUIRK-24: the level fields stay empty after the files were made, so that the next level
-    // command writes a torn line. One would expect the defaults "1" and "1"; the player finds other
-    // levels at the next start but one. Meant.
+    // command writes a torn line, which is then refused. One would expect the defaults "1" and "1";
+    // the player's first choice of a level does not take and resets both files again. Meant.
     w.levels = {};
     checkPlayerLevel(w, 1);
     checkComputerLevel(w, 1);

@@ -28,8 +28,8 @@ std::string settingsText(const LevelFields& levels, int screenValue) {
 }
 
 std::optional<SavedSettings> parseSettings(std::string_view text) {
-  // QUIRK-26: two digits are read, whatever follows. One would expect 100 and more to be refused;
-  // the player finds the first two digits of the size in force. Meant.
+  // QUIRK-26: two digits are read, whatever follows. One would expect three to be refused; 855
+  // counts as 85, and 100 as 10, which is no size. Meant.
   const auto firstSix = text.substr(0, 6);
   const auto size = firstSix.substr(firstSix.size() < 2 ? 0 : firstSix.size() - 2);
   const double screenValue = leadingNumber(size);

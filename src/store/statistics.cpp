@@ -52,7 +52,7 @@ RecordUpdate updatedRecord(std::string_view fileText, RecordMode mode) {
   } else if (full) {
     // QUIRK-28: the two counts have become numbers, so joining them adds them: the record holds the
     // single digit 1. One would expect "001000" or "000001"; the next window shows 1 game won and
-    // 1 lost. Meant.
+    // 1 lost, and the results after it join that short record just as it stands. Meant.
     digits = "1";
   } else if (mode == RecordMode::Won) {
     digits = padded(won + 1) + counts.lost;

@@ -61,6 +61,7 @@ void designTable(MainWindow& w) {
 
   outline(w.kjumlah,  rectangle, { 6240, 4680, 1695, 1695}, darkBlue, 5);
   solid(w.kotak[0],   rounded,   { 2160, 5880,  975, 1335}, handColour, handColour);
+  w.kotak[0].outlined = false;
   solid(w.kotak[1],   rounded,   {13800, 1560,  975, 1335}, lightBlue, black);
   solid(w.hubung[0],  rectangle, {14040, 1800,  495,  375}, blue, black);
   solid(w.hubung[1],  rectangle, {14040, 2280,  495,  375}, blue, black);

@@ -19,8 +19,8 @@ void setPanelVisible(MainWindow& w, bool visible) {
 }  // namespace
 
 void scr_Click(MainWindow& w) {
-  // QUIRK-37: a size takes effect at once but is saved by OK alone. One would expect it to last;
-  // with the panel left open the next start shows the old size. Meant.
+  // QUIRK-37: a size takes effect at once but is saved by OK, or along with a level. One would
+  // expect it to last; with the panel left open the next start shows the old size. Meant.
   setPanelVisible(w, true);
   w.how.enabled = false;
   w.form.sendToBack(w.tanda);
