@@ -14,10 +14,11 @@ namespace {
 
 /// Lays the card `playCard`, at the Left/Bottom end if asked for, else at the first end it fits.
 void lay(MainWindow& w, End end) {
-  if (end == End::LeftBottom) w.state.ngisor = 1;
+  const bool below = end == End::LeftBottom;
+  if (below) w.state.ngisor = 1;
   BukaCover(w);
   Cocok(w);
-  w.state.ngisor = 0;
+  if (below) w.state.ngisor = 0;
 }
 
 /// Pass G, the whole of computer level 1.
@@ -65,7 +66,7 @@ void pass(MainWindow& w) {
 
 void komputer(MainWindow& w) {
   w.jam.disarm();
-  closeChoice(w);
+  closeChoice(w);  // the player's choice was about the numbers as they are now
   w.form.giveFocus(w.mulai);
   w.state.bahaya = noTacticalNumber;
   if (computerIsStuck(w.state)) {

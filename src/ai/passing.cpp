@@ -4,6 +4,7 @@
 #include "game/rules.h"
 #include "guide/tip_text.h"
 #include "guide/tips.h"
+#include "ui/about_commands.h"
 #include "ui/card_cover.h"
 
 namespace mevracard {

@@ -35,7 +35,8 @@ struct Selection {
 };
 
 /// Rules A to F in their order: the first that applies decides. Empty if none does. With RightTop
-/// the card goes to the first end that it fits.
+/// the card goes to the first end that it fits. Leaves `playCard` at the card, or at the last one
+/// examined. The caller has set `bahaya` to none at the start of the turn.
 [[nodiscard]] std::optional<Selection> selectTactically(GameState& s, ScanDirection scan);
 
 }  // namespace mevracard

@@ -11,9 +11,11 @@
 #include "flow/turn_driver.h"
 #include "guide/tips.h"
 #include "guide/tutorial.h"
+#include "ui/about_commands.h"
 #include "ui/choice.h"
 #include "ui/screen_panel.h"
 #include "ui/screen_scale.h"
+#include "ui/statistics_commands.h"
 
 namespace mevracard {
 

@@ -5,6 +5,7 @@
 #include "game/opening.h"
 #include "game/placement.h"
 #include "game/rules.h"
+#include "guide/tutorial_end.h"
 #include "store/saved_settings.h"
 #include "ui/card_cover.h"
 #include "ui/choice.h"
@@ -14,8 +15,19 @@ namespace mevracard {
 
 namespace {
 
+/// Nothing that the game before had under way may reach the new one.
+void dropGameBefore(MainWindow& w) {
+  GameState& s = w.state;
+  w.jam.disarm();
+  closeChoice(w);
+  s.leftEndChosen = 0;
+  s.ngisor = 0;
+  s.computerPassed = 0;
+  s.larangan = s.bahaya = s.bahaya2 = noTacticalNumber;
+}
+
 /// QUIRK-08: the seed is the year and the sum of minute and second, nothing else: a year has at
-/// most 119 different deals. One would expect a new deal every time; a player who comes back at a
+/// most 118 different deals. One would expect a new deal every time; a player who comes back at a
 /// minute and second of the same sum meets the same hands. Meant.
 void seedRandom(MainWindow& w) {
   const ClockTime time = w.desktop.clock();
@@ -52,10 +64,11 @@ void takeUpHands(MainWindow& w) {
 }
 
 /// A screen that has changed since the table was sized changes the table with it.
-void takeScreenHeight(MainWindow& w) {
+void takeScreenMetrics(MainWindow& w) {
   const int before = w.state.screenHeight;
   const int now = w.desktop.screenHeight();
   w.state.screenHeight = now;
+  w.state.twipsPerPixel = w.desktop.twipsPerPixel();
   const bool sized = w.state.firstDealDone.value_or(0) != 0 && before > 0;
   if (sized && now != before) ScreenScale(w, static_cast<double>(now) / before);
 }
@@ -63,10 +76,7 @@ void takeScreenHeight(MainWindow& w) {
 }  // namespace
 
 void Form_Load(MainWindow& w) {
-  // Nothing that the game before had under way may reach the new one.
-  w.jam.disarm();
-  closeChoice(w);
-  takeScreenHeight(w);
+  takeScreenMetrics(w);
   w.state.theend = 0;
   w.mulai.visible = true;
   w.mulai.width = 0;
@@ -79,6 +89,7 @@ void Form_Load(MainWindow& w) {
 
 void Awal(MainWindow& w) {
   GameState& s = w.state;
+  dropGameBefore(w);
   const bool firstDeal = s.firstDealDone.value_or(0) == 0;
   const double scale = firstDeal ? 1.0 : w.scaleFactor();
   seedRandom(w);
@@ -96,7 +107,11 @@ void Awal(MainWindow& w) {
   } else if (playerIsStuck(s)) {
     // The six other cards with a 0 are all the computer's: there is nothing to move.
     w.jam.disarm();
-    if (w.cmdCL.visible) s.demoDone = 0;  // or the tick after its OK would call it the player's turn
+    if (w.cmdCL.visible) {
+      // Else the tick after its OK would take the opening for a demonstrated move.
+      s.demoDone = 0;
+      giveUpDemonstration(w);
+    }
     announcePlayersPass(w);
   }
 }

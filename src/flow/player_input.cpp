@@ -39,7 +39,9 @@ void closePanel(MainWindow& w) {
   }
 }
 
-/// The card was refused. A reply that was due stays due, else a player who cannot move would wait
+/// QUIRK-39: a refused card keeps its red numbers although it is no longer selected. One would
+/// expect them to go; the player may see two red cards after the next 'p'. Meant.
+/// A reply that was due stays due, else a player who cannot move would wait
 /// for ever; and the choice must not go on with the refused card.
 void refuseCard(MainWindow& w, bool replyWasDue) {
   if (replyWasDue) w.jam.arm(w.jam.interval);

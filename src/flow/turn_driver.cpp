@@ -16,7 +16,7 @@ constexpr double farAway = 5000;  ///< outside the window: the pointer vanishes 
 
 /// Moves the pointer to a place given in pixels of 15 twips.
 void point(MainWindow& w, double x, double y) {
-  const double factor = 15.0 / w.desktop.twipsPerPixel();
+  const double factor = 15.0 / w.state.twipsPerPixel;
   MoveMouse(w, static_cast<float>(x * factor), static_cast<float>(y * factor));
 }
 
@@ -46,8 +46,6 @@ void playDemonstratedCard(MainWindow& w) {
 /// double-click, a pause, and the play.
 void demonstrate(MainWindow& w) {
   GameState& s = w.state;
-  // Played, or given up: the timer may go on, but the pointer has arrived.
-  if (s.demoBusy != 1) return;
   const double dx = s.n1, dy = s.n2, x0 = s.n3, y0 = s.n4;
   const int i = ++s.demoTick;
   const int steps = static_cast<int>(std::sqrt(dx * dx + dy * dy) / 10);

@@ -42,7 +42,8 @@ struct GameState {
   std::optional<int> firstDealDone;  ///< 1 once a new game was asked for; decides how a deal scales
 
   int screenHeight = 0;                 ///< twips
-  int screenValue = designScreenValue;  ///< screen size in force, 70 to 99 once settings were read
+  int twipsPerPixel = 15;
+  int screenValue = designScreenValue;  ///< screen size in force, 70 to 99 but for the design value
 
   int computerPassed = 0;  ///< 1 once the computer has passed
   int larangan = noTacticalNumber;

@@ -1,6 +1,7 @@
 #include "guide/tips.h"
 
 #include "guide/tip_text.h"
+#include "ui/about_commands.h"
 
 namespace mevracard {
 

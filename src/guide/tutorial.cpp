@@ -29,8 +29,8 @@ std::size_t slot(int number) { return static_cast<std::size_t>(number); }
 std::optional<ScreenPoint> truePlace(const MainWindow& w, const Box& control) {
   auto place = w.desktop.centreOnScreen(control);
   if (place) {
-    place->x *= w.desktop.twipsPerPixel() / 15.0;
-    place->y *= w.desktop.twipsPerPixel() / 15.0;
+    place->x *= w.state.twipsPerPixel / 15.0;
+    place->y *= w.state.twipsPerPixel / 15.0;
   }
   return place;
 }
@@ -72,8 +72,10 @@ void letComputerMove(MainWindow& w) {
   // QUIRK-31: NEXT during the glide gives up the demonstrated move and lets the computer move at
   // once. One would expect it to wait; the player sees the computer move twice in a row. Meant.
   // The marks of the given-up move go, or the player would take them for the next one's.
-  if (s.demoBusy == 1) unmark(w);
-  s.demoBusy = 0;
+  if (s.demoBusy == 1) {
+    unmark(w);
+    giveUpDemonstration(w);
+  }
   komputer(w);
 }
 

@@ -2,6 +2,12 @@
 
 namespace mevracard {
 
+void giveUpDemonstration(MainWindow& w) {
+  constexpr int pastTheEnd = 1'000'000;
+  w.state.demoBusy = 0;
+  w.state.demoTick = pastTheEnd;
+}
+
 void how_hilang(MainWindow& w) {
   w.cmdCL.visible = false;
   w.lblHow.visible = false;
@@ -16,7 +22,7 @@ void how_hilang(MainWindow& w) {
   w.state.demoMove = 0;
   w.state.tutorialActive = 0;
   // A move that was being demonstrated must not keep the next tutorial waiting for its end.
-  w.state.demoBusy = 0;
+  giveUpDemonstration(w);
 }
 
 }  // namespace mevracard

@@ -4,6 +4,9 @@
 
 namespace mevracard {
 
+/// Gives up a demonstrated move: ticks that still come find nothing left of it.
+void giveUpDemonstration(MainWindow& w);
+
 /// Ends the how-to-play tutorial: hides its controls and gives the menus back.
 void how_hilang(MainWindow& w);
 

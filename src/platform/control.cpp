@@ -1,23 +1,6 @@
 #include "platform/control.h"
 
-#include <algorithm>
-
 namespace mevracard {
-
-namespace {
-
-/// Lists are in depth order: the band of `layer` ends before the first control of a later layer.
-void insertAtFrontOfLayer(std::vector<Control*>& list, Control& control) {
-  const auto behindNextLayer = std::find_if(
-      list.begin(), list.end(), [&](const Control* other) { return other->layer > control.layer; });
-  list.insert(behindNextLayer, &control);
-}
-
-std::vector<Control*>& siblings(Form& form, Control& control) {
-  return control.parent == nullptr ? form.controls : control.parent->children;
-}
-
-}  // namespace
 
 std::string Control::fullName() const {
   std::string text(name);
@@ -29,52 +12,8 @@ bool Control::usable() const {
   return visible && enabled && (parent == nullptr || parent->usable());
 }
 
-bool MenuEntry::usable() const { return enabled && (parent == nullptr || parent->usable()); }
-
-void Timer::arm(int milliseconds) {
-  interval = milliseconds;
-  enabled = true;
-  ++armings;
-}
-
-void Form::add(Control& control, std::string_view controlName, int index) {
-  control.name = controlName;
-  control.index = index;
-  insertAtFrontOfLayer(controls, control);
-}
-
-void Form::addTo(Frame& frame, Control& control, std::string_view controlName, int index) {
-  control.name = controlName;
-  control.index = index;
-  control.parent = &frame;
-  insertAtFrontOfLayer(frame.children, control);
-}
-
-void Form::bringToFront(Control& control) {
-  auto& list = siblings(*this, control);
-  list.erase(std::find(list.begin(), list.end(), &control));
-  insertAtFrontOfLayer(list, control);
-}
-
-void Form::sendToBack(Control& control) {
-  auto& list = siblings(*this, control);
-  list.erase(std::find(list.begin(), list.end(), &control));
-  const auto layerBegin = std::find_if(
-      list.begin(), list.end(), [&](const Control* other) { return other->layer >= control.layer; });
-  list.insert(layerBegin, &control);
-}
-
 bool takesFocus(const Control& control) {
   return control.kind == ControlKind::Button || control.kind == ControlKind::ScrollBar;
-}
-
-void Form::giveFocus(Control& control) {
-  if (takesFocus(control) && control.usable()) focus = &control;
-}
-
-void Form::settleFocus() {
-  if (focus != nullptr && focus->usable()) return;
-  focus = defaultFocus != nullptr && defaultFocus->usable() ? defaultFocus : nullptr;
 }
 
 }  // namespace mevracard

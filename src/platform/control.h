@@ -116,58 +116,6 @@ struct ScrollBar : Box {
   int minimum = 0, maximum = 100, value = 0;
 };
 
-/// One entry of the menu bar or of a menu; "&" in the caption marks the access key.
-struct MenuEntry {
-  std::string_view name;
-  std::string_view caption;
-  bool enabled = true;
-  bool checked = false;
-  std::vector<MenuEntry*> entries = {};
-  MenuEntry* parent = nullptr;
-
-  /// Enabled, and so is every menu that it stands in.
-  [[nodiscard]] bool usable() const;
-};
-
-/// Periodic timer of a window, in milliseconds. `armings` grows with every arming, so that a
-/// desktop starts the interval anew even when interval and state look the same as before.
-struct Timer {
-  bool enabled = false;
-  int interval = 0;
-  unsigned armings = 0;
-
-  void arm(int milliseconds);
-  void disarm() { enabled = false; }
-};
-
-/// A window.
-struct Form {
-  std::string_view name;
-  std::string caption;
-  float left = 0, top = 0, width = 0, height = 0;  ///< client size; left and top on the screen
-  bool maximized = false;
-  bool visible = false;
-  bool enabled = true;
-  Color backColor;
-  std::vector<Control*> controls;  ///< depth order from back to front; frames own their children
-  std::vector<MenuEntry*> menu;
-  Timer* timer = nullptr;
-  Control* focus = nullptr;         ///< the control that receives keys, null for none
-  Control* defaultFocus = nullptr;  ///< takes the focus over from a control that cannot hold it
-
-  /// Puts a control on the window, in front of the others of its layer.
-  void add(Control& control, std::string_view name, int index = -1);
-  /// Puts a control into a frame, in front of the frame's other children.
-  static void addTo(Frame& frame, Control& control, std::string_view name, int index = -1);
-  /// In front of (behind) all other controls of its layer, or of its frame.
-  void bringToFront(Control& control);
-  void sendToBack(Control& control);
-  /// Gives the focus to a usable button or scroll bar; else the focus stays.
-  void giveFocus(Control& control);
-  /// Moves the focus off a control that can no longer hold it.
-  void settleFocus();
-};
-
 /// Whether a control of this kind can hold the focus.
 [[nodiscard]] bool takesFocus(const Control& control);
 

@@ -31,7 +31,7 @@ struct ScreenPoint {
 /// Rules for adding a function: it cannot be done a layer up, it does not follow from another, it
 /// carries no policy of the game and no hidden state. Unless a function says otherwise it cannot
 /// fail, returns at once and never calls the event handler before it returns. Forms and controls
-/// belong to the caller and outlive the desktop.
+/// belong to the caller and live as long as events can come.
 class Desktop {
  public:
   Desktop() = default;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/control.h"
+#include "platform/form.h"
 
 namespace mevracard {
 

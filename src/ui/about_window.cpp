@@ -1,16 +1,10 @@
 #include "ui/about_window.h"
 
 #include "ui/design.h"
-#include "ui/main_window.h"
 
 namespace mevracard {
 
 namespace {
-
-constexpr std::string_view credits =
-    "Zub MevraCard, a game of dominoes.  Made by the Zub MevraCard developers.";
-constexpr std::string_view tipsHeading =
-    "TIPS OF GAME  (The content of help below changes according to the situation)";
 
 constexpr const char* serif = "Times New Roman";
 const LabelLook heading{paleGreen, black, {serif, 11.25F, true, true}};
@@ -53,7 +47,7 @@ AboutWindow::AboutWindow() {
   form.width = 6255;
   form.height = 3540;
 
-  design(mainh, {120, 120, 6255, 615}, credits, heading);
+  design(mainh, {120, 120, 6255, 615}, creditsLine, heading);
   design(Label1, {120, 720, 5895, 375}, "Click:  " + std::string(homepageAddress), linkText);
   Label1.link = true;
   designEmblem(*this);
@@ -72,26 +66,5 @@ AboutWindow::AboutWindow() {
   ctrcom.visible = false;
   form.defaultFocus = &ctrcom;
 }
-
-void author_Click(MainWindow& w) {
-  AboutWindow& about = w.authormevra;
-  w.desktop.show(about.form);
-  about.additional.visible = false;
-  about.mainh.caption = credits;
-  about.form.caption = "About this program";
-}
-
-void showTips(MainWindow& w) {
-  AboutWindow& about = w.authormevra;
-  w.desktop.show(about.form);
-  about.form.caption = "Tips of Game";
-  about.additional.visible = true;
-  about.additional.caption = w.state.tipText;
-  about.mainh.caption = tipsHeading;
-}
-
-void Label1_Click(MainWindow& w) { w.desktop.openAddress(homepageAddress); }
-
-void go_Click(MainWindow& w) { Label1_Click(w); }
 
 }  // namespace mevracard

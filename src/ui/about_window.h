@@ -3,11 +3,13 @@
 #include <array>
 #include <string_view>
 
-#include "platform/control.h"
+#include "platform/form.h"
 
 namespace mevracard {
 
 inline constexpr std::string_view homepageAddress = "https://mevracard.example/";
+inline constexpr std::string_view creditsLine =
+    "Zub MevraCard, a game of dominoes.  Made by the Zub MevraCard developers.";
 
 /// The About window, which is also the tips window. All its parts keep their design places.
 struct AboutWindow {
@@ -26,17 +28,5 @@ struct AboutWindow {
   std::array<Label, 4> numbers;
   Shape apex;
 };
-
-struct MainWindow;
-
-/// Menu About: shows the window with the credits.
-void author_Click(MainWindow& w);
-/// Menu Go to Homepage, and the link of the About window. An address that cannot be opened is a
-/// PlatformError.
-void go_Click(MainWindow& w);
-void Label1_Click(MainWindow& w);
-
-/// Shows the window with the tips heading and the current tip text.
-void showTips(MainWindow& w);
 
 }  // namespace mevracard

@@ -7,8 +7,8 @@ namespace mevracard {
 namespace {
 
 std::array<Control*, 6> backOf(MainWindow& w, std::size_t card) {
-  return {&w.luar1[card], &w.luar2[card], &w.luar3[card],
-          &w.luar4[card], &w.luar5[card], &w.luar6[card]};
+  return {&w.luar1.at(card), &w.luar2.at(card), &w.luar3.at(card),
+          &w.luar4.at(card), &w.luar5.at(card), &w.luar6.at(card)};
 }
 
 }  // namespace

@@ -1,13 +1,12 @@
 #include "ui/main_window.h"
 
 #include "game/grid.h"
-#include "ui/main_window_design.h"
 
 namespace mevracard {
 
 MainWindow::MainWindow(Desktop& d) : desktop(d) {
-  designMainWindow(*this);
-  designMenu(*this);
+  designControls();
+  designMenu();
 }
 
 double MainWindow::scaleFactor() const { return scaleOf(state.screenValue, state.screenHeight); }

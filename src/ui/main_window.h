@@ -6,7 +6,7 @@
 
 #include "game/deal.h"
 #include "game/state.h"
-#include "platform/control.h"
+#include "platform/form.h"
 #include "platform/desktop.h"
 #include "store/settings.h"
 #include "ui/about_window.h"
@@ -88,6 +88,12 @@ struct MainWindow {
   void showStatus(std::string_view text);
   /// The same, with ". Click Next" appended during the tutorial.
   void showTurn(std::string_view text);
+
+ private:
+  /// Gives every control its design place, look and depth, back to front.
+  void designControls();
+  /// Gives the menu entries their captions and builds the menu tree.
+  void designMenu();
 };
 
 inline constexpr std::string_view yourTurn = "Your Turn";

@@ -1,6 +1,5 @@
-#include "ui/main_window_design.h"
-
 #include "ui/design.h"
+#include "ui/main_window.h"
 
 namespace mevracard {
 
@@ -228,7 +227,8 @@ void link(MenuEntry& menu, std::initializer_list<MenuEntry*> entries) {
 
 }  // namespace
 
-void designMainWindow(MainWindow& w) {
+void MainWindow::designControls() {
+  MainWindow& w = *this;
   w.form.name = "mevraku";
   w.form.caption = "Zub MevraCard";
   w.form.backColor = handColour;
@@ -249,7 +249,8 @@ void designMainWindow(MainWindow& w) {
   w.form.defaultFocus = &w.mulai;
 }
 
-void designMenu(MainWindow& w) {
+void MainWindow::designMenu() {
+  MainWindow& w = *this;
   // clang-format off
   w.file   = {"file",   "&File"};
   w.plevel = {"plevel", "&Player Level"};

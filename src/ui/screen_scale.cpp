@@ -133,6 +133,8 @@ void scrctrl_Change(MainWindow& w) {
 
 void takeSavedScreenValue(MainWindow& w, int screenValue) {
   const bool tableIsScaled = w.state.firstDealDone.value_or(0) != 0;
+  // Before the first deal the table has its design size, and the deal applies the size. Later the
+  // table follows at once, or hands and table would be of two sizes.
   if (!tableIsScaled) w.state.screenValue = screenValue;
   if (w.scrctrl.value == screenValue && w.state.screenValue == screenValue) return;
   w.scrctrl.value = screenValue;

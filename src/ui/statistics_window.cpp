@@ -1,6 +1,5 @@
 #include "ui/statistics_window.h"
 
-#include "store/recording.h"
 #include "ui/design.h"
 
 namespace mevracard {
@@ -10,15 +9,6 @@ namespace {
 // The labels of a row overlap, so none may paint over the other.
 const LabelLook text{panelGrey, black, {}, Alignment::Left, false, false};
 const LabelLook figure{panelGrey, black, {}, Alignment::Right, false, false};
-
-void showFigures(MainWindow& w) {
-  StatisticsWindow& window = w.kalahmenang;
-  const Figures figures = figuresOf(w.desktop.readFile(statisticsFile));
-  window.wins.caption = std::to_string(figures.won);
-  window.loses.caption = std::to_string(figures.lost);
-  window.pwins.caption = std::to_string(figures.wonPercent) + "%";
-  window.ploses.caption = std::to_string(figures.lostPercent) + "%";
-}
 
 }  // namespace
 
@@ -50,23 +40,5 @@ StatisticsWindow::StatisticsWindow() {
   form.add(hapusrec, "hapusrec");
   form.defaultFocus = &tutuprec;
 }
-
-void stat_Click(MainWindow& w) {
-  w.form.enabled = false;
-  w.desktop.show(w.kalahmenang.form);
-  showFigures(w);
-}
-
-void hapusrec_Click(MainWindow& w) {
-  recordResult(w, RecordMode::Clear);
-  showFigures(w);
-}
-
-void tutuprec_Click(MainWindow& w) {
-  w.form.enabled = true;
-  w.desktop.hide(w.kalahmenang.form);
-}
-
-void closeStatistics(MainWindow& w) { tutuprec_Click(w); }
 
 }  // namespace mevracard

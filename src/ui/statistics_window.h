@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/control.h"
+#include "platform/form.h"
 
 namespace mevracard {
 
@@ -16,17 +16,5 @@ struct StatisticsWindow {
   Button tutuprec;  ///< OK
   Button hapusrec;  ///< Clear
 };
-
-struct MainWindow;
-
-/// Menu Statistics: disables the main window and shows the figures of the file. A file that cannot
-/// be read is a PlatformError.
-void stat_Click(MainWindow& w);
-/// Clear: a record of no games, shown at once.
-void hapusrec_Click(MainWindow& w);
-/// OK: back to the main window.
-void tutuprec_Click(MainWindow& w);
-/// The close box does what OK does.
-void closeStatistics(MainWindow& w);
 
 }  // namespace mevracard
