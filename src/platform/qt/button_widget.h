@@ -8,7 +8,8 @@
 
 namespace mevracard {
 
-/// A Button on the screen. The mouse presses it; keys go on to the window, which knows what they do.
+/// A Button on the screen. The mouse presses it; keys go on to the window, which knows what they
+/// do.
 class ButtonWidget final : public QPushButton {
  public:
   ButtonWidget(Button& button, ControlEvents& events, QWidget& parent);

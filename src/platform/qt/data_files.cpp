@@ -4,7 +4,6 @@
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QTemporaryDir>
-#include <utility>
 
 #include "platform/desktop.h"
 #include "platform/qt/directory_lock.h"
@@ -29,6 +28,15 @@ void demandPlainFile(const QString& path) {
   if (info.exists() && !info.isFile()) throw PlatformError("Is not a file");
 }
 
+std::string bytesOf(const QString& path) {
+  demandPlainFile(path);
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) throw PlatformError(file.errorString().toStdString());
+  const QByteArray bytes = file.readAll();
+  if (file.error() != QFile::NoError) throw PlatformError(file.errorString().toStdString());
+  return bytes.toStdString();
+}
+
 PlatformError fileError(std::string_view name, const char* what, const std::string& reason) {
   return PlatformError(std::string(name) + what + reason);
 }
@@ -39,17 +47,18 @@ void makeDirectory(const QString& directory, const std::vector<DefaultFile>& def
   const QFileInfo info(directory);
   QDir().mkpath(info.path());
   QTemporaryDir made(directory);
+  if (!made.isValid()) return;
   for (const DefaultFile& content : defaults) {
     QFile file(made.filePath(QString::fromStdString(content.name)));
     if (!file.open(QIODevice::WriteOnly) || !writeBytes(file, content.text)) return;
   }
-  if (made.isValid() && QDir().rename(made.path(), directory)) made.setAutoRemove(false);
+  if (QDir().rename(made.path(), directory)) made.setAutoRemove(false);
 }
 
 }  // namespace
 
-DataFiles::DataFiles(QString directory, const std::vector<DefaultFile>& defaults)
-    : directory_(std::move(directory)) {
+DataFiles::DataFiles(const QString& directory, const std::vector<DefaultFile>& defaults)
+    : directory_(QDir::cleanPath(directory)) {
   // Should this fail, the first read or write says so.
   if (!QFileInfo::exists(directory_)) makeDirectory(directory_, defaults);
 }
@@ -60,12 +69,7 @@ QString DataFiles::pathOf(std::string_view name) const {
 
 std::string DataFiles::read(std::string_view name) const {
   try {
-    demandPlainFile(pathOf(name));
-    QFile file(pathOf(name));
-    if (!file.open(QIODevice::ReadOnly)) throw PlatformError(file.errorString().toStdString());
-    const QByteArray bytes = file.readAll();
-    if (file.error() != QFile::NoError) throw PlatformError(file.errorString().toStdString());
-    return bytes.toStdString();
+    return bytesOf(pathOf(name));
   } catch (const PlatformError& error) {
     throw fileError(name, " cannot be read: ", error.what());
   }
@@ -74,6 +78,8 @@ std::string DataFiles::read(std::string_view name) const {
 void DataFiles::replace(std::string_view name, std::string_view text) const {
   const QString path = pathOf(name);
   demandPlainFile(path);
+  const QFileInfo old(path);
+  if (old.exists() && !old.isWritable()) throw PlatformError("Permission denied");
   QSaveFile file(path);
   const bool written = file.open(QIODevice::WriteOnly) && writeBytes(file, text) && file.commit();
   if (!written) throw PlatformError(file.errorString().toStdString());
@@ -91,10 +97,9 @@ void DataFiles::write(std::string_view name, std::string_view text) const {
 
 bool DataFiles::exchange(std::string_view name, std::string_view expected,
                          std::string_view text) const {
-  std::string now;
   try {
     const DirectoryLock lock(directory_);
-    if (read(name) != expected) return false;
+    if (bytesOf(pathOf(name)) != expected) return false;
     replace(name, text);
     lock.flush();
     return true;

@@ -19,7 +19,7 @@ class DataFiles final {
  public:
   /// A directory that does not exist is made, with the default files in it; one that does exist
   /// is taken as it is.
-  DataFiles(QString directory, const std::vector<DefaultFile>& defaults);
+  DataFiles(const QString& directory, const std::vector<DefaultFile>& defaults);
 
   /// Throws PlatformError with the file's name and the reason, as all of them do.
   [[nodiscard]] std::string read(std::string_view name) const;

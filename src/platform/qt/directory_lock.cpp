@@ -1,14 +1,14 @@
 #include "platform/qt/directory_lock.h"
 
-#include <fcntl.h>
-#include <sys/file.h>
-#include <unistd.h>
-
 #include <QFile>
 #include <cerrno>
 #include <chrono>
 #include <system_error>
 #include <thread>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
 
 #include "platform/desktop.h"
 
@@ -27,7 +27,8 @@ std::string reason(int error) { return std::generic_category().message(error); }
 }  // namespace
 
 DirectoryLock::DirectoryLock(const QString& directory)
-    : handle_(::open(QFile::encodeName(directory).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
+    : handle_(
+          ::open(QFile::encodeName(directory).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
   if (handle_ < 0) throw PlatformError(reason(errno));
   const auto end = steady_clock::now() + patience;
   while (::flock(handle_, LOCK_EX | LOCK_NB) != 0) {

@@ -6,7 +6,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/qt/button_widget.h"
 #include "platform/qt/look.h"
+#include "platform/qt/scroll_bar_widget.h"
 
 namespace mevracard {
 
@@ -22,23 +24,27 @@ Qt::WindowFlags flagsOf(const QWidget* mainWindow) {
 
 /// The code of a key, 0 for one that the game has no use for.
 int keyCodeOf(const QKeyEvent& event) {
-  const bool command = (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier |
-                                             Qt::MetaModifier)) != Qt::NoModifier;
+  const bool command =
+      (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) !=
+      Qt::NoModifier;
   if (command) return 0;
   switch (event.key()) {
     case Qt::Key_Return:
-    case Qt::Key_Enter: return keyEnter;
-    case Qt::Key_Escape: return keyEscape;
-    default: break;
+    case Qt::Key_Enter:
+      return keyEnter;
+    case Qt::Key_Escape:
+      return keyEscape;
+    default:
+      break;
   }
   const QString text = event.text();
   return text.size() == 1 && text[0].isPrint() ? text[0].unicode() : 0;
 }
 
-/// A widget that takes the keyboard without the game's knowing: a link, the scroll bar of a text.
+/// A widget that has the keyboard without the game's knowing: a link, the scroll bar of a text.
 bool isOutsideTheModel(const QWidget& widget) {
-  return qobject_cast<const QAbstractButton*>(&widget) == nullptr &&
-         widget.objectName() != "scrctrl";
+  return dynamic_cast<const ButtonWidget*>(&widget) == nullptr &&
+         dynamic_cast<const ScrollBarWidget*>(&widget) == nullptr;
 }
 
 }  // namespace
@@ -97,15 +103,12 @@ void FormWindow::flushTimer() {
 
 void FormWindow::flushFocus() {
   QWidget* now = focusWidget();
-  QWidget* wanted = form_.focus != nullptr ? widgetOf(*form_.focus) : nullptr;
-  const bool playersOwn = now != nullptr && isOutsideTheModel(*now);
+  const bool playersOwn = now != nullptr && isOutsideTheModel(*now) && now->isVisible();
   const bool asBefore = form_.focus == std::exchange(flushedFocus_, form_.focus);
-  if (playersOwn && asBefore && now->isVisible()) return;
-  if (wanted != nullptr) {
-    if (now != wanted) wanted->setFocus(Qt::OtherFocusReason);
-  } else if (now != nullptr) {
-    now->clearFocus();
-  }
+  if (playersOwn && asBefore) return;
+  // The client area takes the keyboard for want of another, lest the toolkit give it to a link.
+  QWidget* wanted = form_.focus != nullptr ? widgetOf(*form_.focus) : client_;
+  if (wanted != nullptr && now != wanted) wanted->setFocus(Qt::OtherFocusReason);
 }
 
 void FormWindow::open() {
@@ -127,12 +130,11 @@ void FormWindow::placeOnScreen() {
   if (form_.left != 0 || form_.top != 0) {
     place.moveTopLeft(QPointF(toPixels(form_.left), toPixels(form_.top)).toPoint());
   } else {
-    place.moveCenter(parentWidget() != nullptr ? parentWidget()->frameGeometry().center()
-                                               : room.center());
+    place.moveCenter(parentWidget() != nullptr ? areaOf(*parentWidget()).center() : room.center());
   }
-  place.moveLeft(std::clamp(place.left(), room.left(), std::max(room.left(), room.right() - place.width())));
-  place.moveTop(std::clamp(place.top(), room.top(), std::max(room.top(), room.bottom() - place.height())));
-  move(place.topLeft());
+  const int right = std::max(room.left(), room.right() - place.width());
+  const int bottom = std::max(room.top(), room.bottom() - place.height());
+  move(std::clamp(place.left(), room.left(), right), std::clamp(place.top(), room.top(), bottom));
 }
 
 QWidget* FormWindow::widgetOf(const Control& control) const { return client_->widgetOf(control); }
@@ -147,11 +149,25 @@ void FormWindow::focusMoved(Control& control, Qt::FocusReason reason) {
   if (!flushing_ && byPlayer) form_.focus = flushedFocus_ = &control;
 }
 
+bool FormWindow::event(QEvent* event) {
+  // A player who clicks on the disabled window would else type into nothing.
+  if (event->type() == QEvent::WindowActivate && !form_.enabled) passKeyboardOn();
+  return QMainWindow::event(event);
+}
+
+void FormWindow::passKeyboardOn() {
+  for (QObject* child : children()) {
+    auto* window = dynamic_cast<FormWindow*>(child);
+    if (window == nullptr || !window->isVisible() || !window->form_.enabled) continue;
+    window->raise();
+    window->activateWindow();
+  }
+}
+
 void FormWindow::keyPressEvent(QKeyEvent* event) {
   const int key = keyCodeOf(*event);
-  const bool held = event->isAutoRepeat() && (key == keyEnter || key == keySpace);
   const bool usable = form_.enabled && form_.focus != nullptr && form_.focus->usable();
-  if (key != 0 && usable && !held) deliver_(keyEvent(form_, key));
+  if (key != 0 && usable) deliver_(keyEvent(form_, key));
 }
 
 void FormWindow::tick() {

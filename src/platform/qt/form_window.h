@@ -33,6 +33,7 @@ class FormWindow final : public QMainWindow, private WidgetHost {
   void deliverDueTick();
 
  protected:
+  bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
@@ -42,9 +43,13 @@ class FormWindow final : public QMainWindow, private WidgetHost {
   void send(EventKind kind, Control& control, int value) override;
   void focusMoved(Control& control, Qt::FocusReason reason) override;
   Glides& glides() override { return glides_; }
-  bool tabReaches(const Control& keysOnly) const override { return form_.defaultFocus == &keysOnly; }
+  bool tabReaches(const Control& keysOnly) const override {
+    return form_.defaultFocus == &keysOnly;
+  }
 
   void placeOnScreen();
+  /// Gives the keyboard to a window in front that takes events.
+  void passKeyboardOn();
   void flushTimer();
   void flushFocus();
   void tick();

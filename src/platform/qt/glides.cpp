@@ -123,8 +123,11 @@ bool Glides::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
     case QEvent::TouchBegin:
-    case QEvent::KeyPress: endAll(); break;
-    default: break;
+    case QEvent::KeyPress:
+      endAll();
+      break;
+    default:
+      break;
   }
   return QObject::eventFilter(watched, event);
 }

@@ -5,6 +5,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <algorithm>
 #include <utility>
 
 #include "platform/qt/graphic.h"
@@ -16,7 +17,7 @@ namespace {
 
 constexpr int borderWidth = 1;
 constexpr int sidePadding = 2;
-constexpr int focusMargin = 1;
+constexpr int topPadding = 2;  // where there is room to spare
 
 }  // namespace
 
@@ -27,23 +28,25 @@ LabelWidget::LabelWidget(Label& label, ControlEvents& events, QWidget& parent)
   setVisible(false);
 }
 
-LabelWidget::Look LabelWidget::lookOf(bool covered) const {
+LabelWidget::Look LabelWidget::lookOf(const Exposure& exposure) const {
   const Label& l = label_;
-  if (covered || !l.visible) return {};
-  return {true,        l.enabled,  toPixelRect(l), l.caption, l.font,      l.alignment,
-          l.bordered,  l.opaque,   l.link,         l.backColor, l.foreColor};
+  if (exposure.covered || !l.visible) return {};
+  return {true,        l.enabled,  toPixelRect(l), exposure.clear, l.caption,   l.font,
+          l.alignment, l.bordered, l.opaque,       l.link,         l.backColor, l.foreColor};
 }
 
-bool LabelWidget::flush(bool covered) {
-  const Look look = lookOf(covered);
+bool LabelWidget::flush(const Exposure& exposure) {
+  const Look look = lookOf(exposure);
   if (look == look_) return false;
   const Look before = std::exchange(look_, look);
   if (look.caption != before.caption) setText(toText(look.caption));
   if (look.visible) {
     setGeometry(look.place);
     setEnabled(look.enabled);
-    setCursor(look.link ? Qt::PointingHandCursor : Qt::ArrowCursor);
-    setFocusPolicy(look.link ? Qt::StrongFocus : Qt::NoFocus);
+    if (look.link != before.link) {
+      setCursor(look.link ? Qt::PointingHandCursor : Qt::ArrowCursor);
+      setFocusPolicy(look.link ? Qt::StrongFocus : Qt::NoFocus);
+    }
     fit();
     update();
   }
@@ -51,13 +54,17 @@ bool LabelWidget::flush(bool covered) {
   return true;
 }
 
+bool LabelWidget::isScrolled() const { return scrollBar_ != nullptr && !scrollBar_->isHidden(); }
+
 QRect LabelWidget::room() const {
-  const QRect window = parentWidget()->rect().translated(-pos());
+  QRect inside = rect() & look_.clear.translated(-pos());
+  // A window of fixed size may be narrower than a label on it; any other can show all of it.
+  const bool fixed = window()->minimumSize() == window()->maximumSize();
+  if (fixed) inside &= QRect(mapFrom(window(), QPoint()), window()->size());
   const int border = look_.bordered ? borderWidth : 0;
   const int side = look_.alignment == Alignment::Centre ? border : border + sidePadding;
-  const bool scrolled = scrollBar_ != nullptr && scrollBar_->isVisibleTo(this);
-  const int right = scrolled ? scrollBar_->width() : 0;
-  return rect().intersected(window).adjusted(side, border, -side - right, -border);
+  const int right = isScrolled() ? scrollBar_->width() : 0;
+  return inside.adjusted(side, border, -side - right, -border);
 }
 
 void LabelWidget::fit() {
@@ -88,26 +95,28 @@ void LabelWidget::resizeEvent(QResizeEvent* /*event*/) {
   // The toolkit's label has nothing to lay out: the text is fitted when the look changes.
 }
 
+QRect LabelWidget::textPlace() const {
+  const QRect space = room();
+  if (isScrolled()) {
+    return {space.left(), space.top() - scrollBar_->value(), space.width(), fitted_.height};
+  }
+  const bool fromTop = (fitted_.flags & Qt::AlignTop) != 0;
+  const int top = fromTop ? std::clamp(space.height() - fitted_.height, 0, topPadding) : 0;
+  return space.adjusted(0, top, 0, 0);
+}
+
 void LabelWidget::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   if (look_.opaque) painter.fillRect(rect(), toColor(look_.backColor));
   if (look_.bordered) paintBorder(painter, rect(), Qt::black);
+  if (isScrolled()) painter.setClipRect(room());
   painter.setFont(fitted_.font);
   painter.setPen(toColor(look_.foreColor));
-  const QRect space = room();
-  if (scrollBar_ != nullptr && scrollBar_->isVisible()) {
-    painter.setClipRect(space);
-    const QRect whole(space.left(), space.top() - scrollBar_->value(), space.width(),
-                      fitted_.height);
-    painter.drawText(whole, fitted_.flags, text());
-  } else {
-    painter.drawText(space, fitted_.flags | Qt::TextDontClip, text());
-  }
-  if (hasFocus()) {
-    painter.setPen(QPen(toColor(look_.foreColor), 1, Qt::DotLine));
-    const int m = focusMargin;
-    painter.drawRect(rect().adjusted(m, m, -m - 1, -m - 1));
-  }
+  QRect written;
+  painter.drawText(textPlace(), fitted_.flags | Qt::TextDontClip, text(), &written);
+  if (!hasFocus()) return;
+  painter.setPen(QPen(toColor(look_.foreColor), 1, Qt::DotLine));
+  painter.drawRect(written.adjusted(-2, -1, 1, 0));
 }
 
 void LabelWidget::mousePressEvent(QMouseEvent* event) {
@@ -127,14 +136,14 @@ void LabelWidget::keyPressEvent(QKeyEvent* event) {
   const bool presses = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
                        event->key() == Qt::Key_Space;
   if (isLink() && presses) {
-    if (!event->isAutoRepeat()) press();
+    press();
   } else {
     event->ignore();
   }
 }
 
 void LabelWidget::wheelEvent(QWheelEvent* event) {
-  if (scrollBar_ != nullptr && scrollBar_->isVisible()) {
+  if (isScrolled()) {
     QApplication::sendEvent(scrollBar_, event);
   } else {
     event->ignore();

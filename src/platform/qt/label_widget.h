@@ -10,6 +10,13 @@ class QScrollBar;
 
 namespace mevracard {
 
+/// What of a label can be seen behind the things in front of it.
+struct Exposure {
+  bool covered = false;  ///< nothing
+  QRect clear;           ///< where no button or scroll bar stands in the way of its text
+  bool operator==(const Exposure&) const = default;
+};
+
 /// A Label on the screen. It paints itself; the toolkit's label gives it its voice for assistive
 /// technology.
 class LabelWidget final : public QLabel {
@@ -18,7 +25,7 @@ class LabelWidget final : public QLabel {
 
   /// Brings it up to date. Behind a cover it is not shown and its text is nowhere to be read.
   /// True if anything changed.
-  bool flush(bool covered);
+  bool flush(const Exposure& exposure);
   [[nodiscard]] bool isLink() const { return look_.link; }
   /// A link's click, by any means.
   void press() { events_.send(EventKind::Click, label_); }
@@ -38,6 +45,7 @@ class LabelWidget final : public QLabel {
     bool visible = false;
     bool enabled = true;
     QRect place;
+    QRect clear;
     std::string caption;
     Font font;
     Alignment alignment = Alignment::Left;
@@ -46,9 +54,12 @@ class LabelWidget final : public QLabel {
     bool operator==(const Look&) const = default;
   };
 
-  [[nodiscard]] Look lookOf(bool covered) const;
-  /// Where text may stand: inside the border and inside the window.
+  [[nodiscard]] Look lookOf(const Exposure& exposure) const;
+  /// Where text may stand: inside the border and the window, clear of buttons.
   [[nodiscard]] QRect room() const;
+  /// Where the fitted text is drawn, which reaches beyond the room while it is scrolled.
+  [[nodiscard]] QRect textPlace() const;
+  [[nodiscard]] bool isScrolled() const;
   void fit();
   void fitScrollBar();
 

@@ -2,7 +2,9 @@
 
 #include <QApplication>
 #include <QPalette>
+#include <QScreen>
 #include <QStyleFactory>
+#include <QWidget>
 #include <algorithm>
 #include <cmath>
 
@@ -42,11 +44,8 @@ double toPixels(float twips) {
 }
 
 QRect toPixelRect(const Box& box) {
-  const int left = roundedPixels(box.left);
-  const int top = roundedPixels(box.top);
-  const int right = roundedPixels(box.left + box.width);
-  const int bottom = roundedPixels(box.top + box.height);
-  return {left, top, std::max(0, right - left), std::max(0, bottom - top)};
+  return {roundedPixels(box.left), roundedPixels(box.top), std::max(0, roundedPixels(box.width)),
+          std::max(0, roundedPixels(box.height))};
 }
 
 QColor toColor(Color color) { return {color.red, color.green, color.blue}; }
@@ -65,6 +64,10 @@ QFont toFont(const Font& font) {
 QString toText(std::string_view text) {
   QString result = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
   return result.replace("\r\n", "\n").replace('\r', '\n');
+}
+
+QRect areaOf(const QWidget& window) {
+  return window.isMaximized() ? window.screen()->availableGeometry() : window.frameGeometry();
 }
 
 void applyLook() {

@@ -5,7 +5,7 @@
 #include <functional>
 #include <vector>
 
-#include "platform/control.h"
+#include "platform/form.h"
 
 namespace mevracard {
 

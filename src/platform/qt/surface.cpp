@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "platform/qt/button_widget.h"
-#include "platform/qt/label_widget.h"
 #include "platform/qt/look.h"
 #include "platform/qt/scroll_bar_widget.h"
 
@@ -29,6 +28,12 @@ bool contains(const Box& outer, const Box& inner) {
          outer.top + outer.height >= inner.top + inner.height;
 }
 
+/// A button or scroll bar that can be seen.
+bool isSolid(const Control& control) {
+  if (control.kind == ControlKind::Button) return !static_cast<const Button&>(control).keysOnly;
+  return control.kind == ControlKind::ScrollBar;
+}
+
 void paintAll(QPainter& painter, const std::vector<Graphic>& graphics, const QRectF& dirty) {
   for (const Graphic& graphic : graphics) {
     if (graphic.bounds().intersects(dirty)) paint(painter, graphic);
@@ -37,12 +42,16 @@ void paintAll(QPainter& painter, const std::vector<Graphic>& graphics, const QRe
 
 QWidget* makeWidget(Control& control, WidgetHost& host, QWidget& parent) {
   switch (control.kind) {
-    case ControlKind::Label: return new LabelWidget(static_cast<Label&>(control), host, parent);
-    case ControlKind::Button: return new ButtonWidget(static_cast<Button&>(control), host, parent);
-    case ControlKind::Frame: return new FrameWidget(static_cast<Frame&>(control), host, parent);
+    case ControlKind::Label:
+      return new LabelWidget(static_cast<Label&>(control), host, parent);
+    case ControlKind::Button:
+      return new ButtonWidget(static_cast<Button&>(control), host, parent);
+    case ControlKind::Frame:
+      return new FrameWidget(static_cast<Frame&>(control), host, parent);
     case ControlKind::ScrollBar:
       return new ScrollBarWidget(static_cast<ScrollBar&>(control), host, parent);
-    default: return nullptr;
+    default:
+      return nullptr;
   }
 }
 
@@ -112,14 +121,22 @@ QWidget& Surface::widgetFor(Control& control) {
   return *widget;
 }
 
-bool Surface::isCovered(const Box& box, std::size_t depth) const {
-  return std::any_of(controls_.begin() + static_cast<std::ptrdiff_t>(depth), controls_.end(),
-                     [&](const Control* control) {
-                       if (control->kind != ControlKind::Shape || !control->visible) return false;
-                       const auto& shape = static_cast<const Shape&>(*control);
-                       return shape.filled && shape.form == ShapeForm::Rectangle &&
-                              contains(shape, box);
-                     });
+Exposure Surface::exposureOf(const Label& label, std::size_t depth) const {
+  Exposure exposure{false, toPixelRect(label)};
+  for (std::size_t i = depth + 1; i < controls_.size(); ++i) {
+    const Control& control = *controls_[i];
+    if (!control.visible) continue;
+    if (control.kind == ControlKind::Shape) {
+      const auto& shape = static_cast<const Shape&>(control);
+      exposure.covered |=
+          shape.filled && shape.form == ShapeForm::Rectangle && contains(shape, label);
+    } else if (isSolid(control)) {
+      const QRect other = toPixelRect(static_cast<const Box&>(control));
+      const bool below = other.top() > exposure.clear.top();
+      if (below && other.intersects(exposure.clear)) exposure.clear.setBottom(other.top() - 1);
+    }
+  }
+  return exposure;
 }
 
 bool Surface::flushWidget(Control& control, std::size_t depth) {
@@ -127,11 +144,13 @@ bool Surface::flushWidget(Control& control, std::size_t depth) {
   switch (control.kind) {
     case ControlKind::Label:
       return static_cast<LabelWidget&>(widget).flush(
-          isCovered(static_cast<const Label&>(control), depth));
+          exposureOf(static_cast<const Label&>(control), depth));
     case ControlKind::Button:
       return static_cast<ButtonWidget&>(widget).flush(host_.tabReaches(control));
-    case ControlKind::Frame: return static_cast<FrameWidget&>(widget).flush();
-    default: return static_cast<ScrollBarWidget&>(widget).flush();
+    case ControlKind::Frame:
+      return static_cast<FrameWidget&>(widget).flush();
+    default:
+      return static_cast<ScrollBarWidget&>(widget).flush();
   }
 }
 
@@ -247,6 +266,7 @@ bool FrameWidget::flush() {
   if (changed) host_.glides().end(*this);
   if (frame_.visible && !track.empty()) {
     std::vector<QPointF> path;
+    path.reserve(track.size());
     for (const Position& p : track) path.emplace_back(toPixels(p.left), toPixels(p.top));
     host_.glides().plan(*this, std::move(path));
   }
@@ -273,6 +293,7 @@ void FrameWidget::nameItself() {
 void FrameWidget::paintEvent(QPaintEvent* event) {
   Surface::paintEvent(event);
   QPainter painter(this);
+  paintBorder(painter, rect().adjusted(1, 1, 0, 0), Qt::white);
   paintBorder(painter, rect(), backColor().darker(250));
 }
 

@@ -6,6 +6,7 @@
 
 #include "platform/control.h"
 #include "platform/qt/graphic.h"
+#include "platform/qt/label_widget.h"
 #include "platform/qt/widget_host.h"
 
 namespace mevracard {
@@ -45,8 +46,7 @@ class Surface : public QWidget {
 
   QWidget& widgetFor(Control& control);
   bool flushWidget(Control& control, std::size_t depth);
-  /// Wholly under a filled rectangle that lies in front of it.
-  [[nodiscard]] bool isCovered(const Box& box, std::size_t depth) const;
+  [[nodiscard]] Exposure exposureOf(const Label& label, std::size_t depth) const;
   [[nodiscard]] Arrangement arrange() const;
   bool flushGraphics();
   bool paintGround(std::vector<Graphic> ground);
