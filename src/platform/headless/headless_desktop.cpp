@@ -81,13 +81,13 @@ Attempt HeadlessDesktop::reach(const Form& form) const {
 
 Attempt HeadlessDesktop::reach(const Form& form, const Control& control) const {
   if (const Attempt window = reach(form); !window) return window;
-  if (control.usable()) return {};
-  const Control* part = &control;
-  while (part->parent != nullptr && part->visible) part = part->parent;
-  if (!part->visible) return {Refusal::Hidden, part->name, part->index};
-  part = &control;
-  while (part->enabled) part = part->parent;
-  return {Refusal::Disabled, part->name, part->index};
+  for (const Control* part = &control; part != nullptr; part = part->parent) {
+    if (!part->visible) return {Refusal::Hidden, part->name, part->index};
+  }
+  for (const Control* part = &control; part != nullptr; part = part->parent) {
+    if (!part->enabled) return {Refusal::Disabled, part->name, part->index};
+  }
+  return {};
 }
 
 Attempt HeadlessDesktop::send(const Event& event) {
