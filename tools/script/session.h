@@ -1,0 +1,36 @@
+#pragma once
+
+#include <optional>
+
+#include "app/program.h"
+#include "platform/headless/headless_desktop.h"
+#include "script/names.h"
+
+namespace mevracard::script {
+
+/// One world with the program that runs in it. What reaches the outside world is printed.
+class Session {
+ public:
+  Session();
+
+  HeadlessDesktop desktop;
+
+  /// Starts the program anew in this world; it must not be running.
+  void start();
+  /// The deck of every later deal; empty for a shuffled one.
+  void stackDeck(const std::optional<Deck>& deck);
+
+  // The started program, also after it has ended. Throw ScriptError before the first start.
+  [[nodiscard]] MainWindow& window();
+  [[nodiscard]] const Names& names();
+
+ private:
+  std::optional<Deck> stackedDeck_;
+  std::optional<Program> program_;
+  std::optional<Names> names_;
+};
+
+/// One line of standard output.
+void print(std::string_view line);
+
+}  // namespace mevracard::script

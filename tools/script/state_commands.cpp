@@ -1,0 +1,91 @@
+#include <array>
+
+#include "platform/headless/transcript.h"
+#include "script/commands.h"
+#include "script/fields.h"
+#include "script/procedures.h"
+#include "script/properties.h"
+#include "script/values.h"
+
+namespace mevracard::script {
+
+namespace {
+
+std::string orderText(MainWindow& w) {
+  std::string order;
+  for (const Control* control : w.form.controls) {
+    if (control->name == "k") order += (order.empty() ? "" : " ") + control->fullName();
+  }
+  return order;
+}
+
+std::string focusText(const HeadlessDesktop& desktop) {
+  const Control* focus = desktop.focus();
+  return focus == nullptr ? "none" : focus->fullName();
+}
+
+std::string valueText(Session& session, std::string_view name) {
+  MainWindow& w = session.window();
+  if (name == "order") return orderText(w);
+  if (name == "focus") return focusText(session.desktop);
+  if (name == "random") return std::to_string(session.desktop.world.draws.size());
+  if (name == "jam.enabled") return flagText(w.jam.enabled);
+  if (name == "jam.interval") return std::to_string(w.jam.interval);
+  if (auto field = fieldText(w, name)) return *field;
+  return propertyText(session.names(), name);
+}
+
+void showFile(const Call& call) {
+  if (call.words.size() != 2) throw ScriptError("wanted: show file NAME");
+  const auto& files = call.session().desktop.world.files;
+  const auto file = files.find(call.words[1]);
+  print("file " + std::string(call.words[1]) + " = " +
+        (file == files.end() ? "none" : quoted(file->second)));
+}
+
+void show(const Call& call) {
+  call.session().window().refresh();  // captions follow the state
+  if (call.words[0] == "file") return showFile(call);
+  // All names are looked up before the first is shown, so that a faulty line shows nothing.
+  std::vector<std::string> lines;
+  for (const auto name : call.words) {
+    lines.push_back(std::string(name) + " = " + valueText(call.session(), name));
+  }
+  for (const auto& line : lines) print(line);
+}
+
+/// The text of `set` must not lose the blanks in it; every other value is one word.
+std::string_view valueOf(const Call& call) {
+  if (call.words[0] == "tipText") return afterFirstWord(call.text);
+  if (call.words.size() != 2) throw ScriptError("wanted: set FIELD VALUE");
+  return call.words[1];
+}
+
+void set(const Call& call) {
+  MainWindow& w = call.session().window();
+  setField(w, call.words[0], valueOf(call));
+  w.present();
+}
+
+void callProcedure(const Call& call) {
+  MainWindow& w = call.session().window();
+  const Procedure procedure = procedureNamed(call.words[0], std::span(call.words).subspan(1));
+  try {
+    if (const auto result = procedure(w)) print(std::string(call.words[0]) + " = " + *result);
+  } catch (const std::exception& error) {
+    w.desktop.reportError(error.what());
+  }
+  w.present();
+}
+
+constexpr std::array<Command, 3> table{{
+    {"show", "show NAME ...", 1, anyNumber, true, show},
+    {"set", "set FIELD VALUE", 2, anyNumber, true, set},
+    {"call", "call NAME", 1, 3, true, callProcedure},
+}};
+
+}  // namespace
+
+std::span<const Command> stateCommands() { return table; }
+
+}  // namespace mevracard::script
