@@ -1,0 +1,45 @@
+#pragma once
+
+#include <array>
+
+#include "simulate/chain_log.h"
+
+namespace mevracard::simulate {
+
+/// What a run has met, to show that it was worth running.
+struct Met {
+  int wins = 0, losses = 0, deadlocks = 0, abandoned = 0;
+  int choices = 0;              ///< same-number choices opened
+  int hurriedCards = 0;         ///< of the player's, laid while a reply was pending
+  int computersExtraCards = 0;  ///< laid in one turn after the first
+  int playersPasses = 0, computersPasses = 0;
+};
+
+/// Holds the table after every event against what must always be true.
+class TableWatch {
+ public:
+  explicit TableWatch(const MainWindow& w) : w_(w) {}
+
+  /// To be called after every event. Null, or what does not hold.
+  [[nodiscard]] const char* complaint();
+  [[nodiscard]] const Met& met() const { return met_; }
+
+ private:
+  const char* aboutChain();
+  [[nodiscard]] const char* aboutCards() const;
+  [[nodiscard]] const char* aboutTurn() const;
+  void meet();
+
+  const MainWindow& w_;
+  ChainLog chain_;
+  std::array<int, 2> open_{};                  ///< the number that the last card of each end opened
+  std::array<std::optional<int>, 2> endCard_;  ///< that card
+  int surplus_ = 0;                            ///< cards of the computer that its count has missed
+  Met met_;
+  // As they stood after the event before.
+  std::array<int, 4> sisa_{14, 14, 0, 0};
+  int theend_ = 0;
+  bool choiceWasOpen_ = false, replyWasDue_ = false;
+};
+
+}  // namespace mevracard::simulate

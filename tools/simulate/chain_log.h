@@ -1,0 +1,34 @@
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "ui/main_window.h"
+
+namespace mevracard::simulate {
+
+/// A card that was laid: which, at which end, the number that touches the chain and the one that it
+/// opened.
+struct LaidCard {
+  int slot = 0;
+  End end = End::RightTop;
+  int touching = 0;
+  int opened = 0;
+};
+
+/// Follows the chain from outside, by the places of the cards on the table.
+class ChainLog {
+ public:
+  /// The cards laid since the last call, which was before the table was scaled anew: those of the
+  /// Right/Top end, then those of the Left/Bottom end, each from the chain outwards. Throws
+  /// std::logic_error if no card lies where the chain has grown.
+  [[nodiscard]] const std::vector<LaidCard>& cardsLaid(const MainWindow& w);
+  /// A new game lies on the table.
+  void restart() { counts_ = {}; }
+
+ private:
+  std::array<int, 2> counts_{};  ///< cards already seen at each end
+  std::vector<LaidCard> laid_;
+};
+
+}  // namespace mevracard::simulate
