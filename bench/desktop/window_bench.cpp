@@ -1,0 +1,124 @@
+// The real window against our measures: opening beside an empty window with as many widgets, a
+// double-click within one frame at 60 Hz (16.7 ms), a rescale within two. Needs a display.
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QMainWindow>
+#include <QTemporaryDir>
+#include <QtTest/QTest>
+
+#include "app/program.h"
+#include "game/rules.h"
+#include "platform/qt/qt_desktop.h"
+#include "store/statistics.h"
+
+namespace mevracard {
+namespace {
+
+/// The real desktop without the boxes that a player would have to close.
+class QuietDesktop final : public QtDesktop {
+ public:
+  explicit QuietDesktop(const QString& dataDir)
+      : QtDesktop(dataDir, {{"wdx.sys", "1/1/99\r\n"}, {"sys32rtn.dat", emptyRecordText()}}) {}
+  void messageBox(std::string_view /*text*/) override {}
+};
+
+struct Game {
+  QTemporaryDir home;
+  QuietDesktop desktop{home.filePath("data")};
+  Program program{desktop};
+};
+
+QWidget* mainWidget() {
+  for (QWidget* top : QApplication::topLevelWidgets()) {
+    if (top->objectName() == "mevraku") return top;
+  }
+  return nullptr;
+}
+
+/// Until the window system has shown the window and everything on it is painted.
+void finishPainting(QWidget& window) {
+  (void)QTest::qWaitForWindowExposed(&window);
+  window.repaint();
+}
+
+void OpeningTheGame(benchmark::State& state) {
+  for ([[maybe_unused]] auto step : state) {
+    Game game;
+    game.program.start();
+    finishPainting(*mainWidget());
+  }
+}
+BENCHMARK(OpeningTheGame)->Unit(benchmark::kMillisecond);
+
+void OpeningAnEmptyWindow(benchmark::State& state) {
+  qsizetype widgets = 0;
+  {
+    Game game;
+    game.program.start();
+    widgets = mainWidget()->findChildren<QWidget*>().size();
+  }
+  for ([[maybe_unused]] auto step : state) {
+    QMainWindow window;
+    for (qsizetype i = 0; i < widgets; ++i) {
+      auto* label = new QLabel(QString::number(i), &window);
+      label->setGeometry(static_cast<int>(i % 40) * 25, static_cast<int>(i / 40) * 25, 24, 24);
+    }
+    window.showMaximized();
+    finishPainting(window);
+  }
+}
+BENCHMARK(OpeningAnEmptyWindow)->Unit(benchmark::kMillisecond);
+
+void RescalingTheTable(benchmark::State& state) {
+  Game game;
+  game.program.start();
+  MainWindow& w = game.program.window();
+  finishPainting(*mainWidget());
+  int value = 99;
+  for ([[maybe_unused]] auto step : state) {
+    value = value == 99 ? 70 : 99;
+    game.program.handle({EventKind::Scroll, &w.form, &w.scrctrl, nullptr, value});
+    mainWidget()->repaint();
+    QCoreApplication::processEvents();
+  }
+}
+BENCHMARK(RescalingTheTable)->Unit(benchmark::kMillisecond);
+
+/// The first card that fits; a new game where none does.
+int fittingCard(Game& game) {
+  MainWindow& w = game.program.window();
+  for (;;) {
+    for (int i = playerFirst; i <= playerLast; ++i) {
+      if (w.state.held[static_cast<std::size_t>(i)] == 1 && matchesAny(w.state, i)) return i;
+    }
+    w.form.enabled = true;
+    game.program.handle({EventKind::Menu, &w.form, nullptr, &w.rg, 0});
+  }
+}
+
+void LayingACard(benchmark::State& state) {
+  Game game;
+  game.program.start();
+  MainWindow& w = game.program.window();
+  for ([[maybe_unused]] auto step : state) {
+    state.PauseTiming();
+    auto& card = w.k[static_cast<std::size_t>(fittingCard(game))];
+    QCoreApplication::processEvents();
+    state.ResumeTiming();
+    game.program.handle({EventKind::DoubleClick, &w.form, &card, nullptr, 0});
+    mainWidget()->repaint();
+  }
+}
+BENCHMARK(LayingACard)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace mevracard
+
+int main(int argc, char** argv) {
+  const QApplication application(argc, argv);
+  benchmark::Initialize(&argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+  return 0;
+}
