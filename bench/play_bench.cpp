@@ -1,8 +1,8 @@
 // How fast the program plays. Wanted in a release build on one core: 2,000 whole games a second at
 // either level, and 20 microseconds at most for a turn of the tactical computer.
-#include <benchmark/benchmark.h>
-
 #include <vector>
+
+#include <benchmark/benchmark.h>
 
 #include "ai/komputer.h"
 #include "game/rules.h"

@@ -1,12 +1,12 @@
 // The real window against our measures: opening beside an empty window with as many widgets, a
 // double-click within one frame at 60 Hz (16.7 ms), a rescale within two. Needs a display.
-#include <benchmark/benchmark.h>
-
 #include <QApplication>
 #include <QLabel>
 #include <QMainWindow>
 #include <QTemporaryDir>
+
 #include <QtTest/QTest>
+#include <benchmark/benchmark.h>
 
 #include "app/program.h"
 #include "game/rules.h"

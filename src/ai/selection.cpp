@@ -49,14 +49,14 @@ constexpr std::array<RankRule, 6> rankRules{{
      sameNumberWouldLose, End::LeftBottom},
     {"C1",
      [](const View& v) {
-       return !v.isDouble() && ((v.target == v.x && v.y == v.first) ||
-                                (v.target == v.y && v.x == v.first));
+       return !v.isDouble() &&
+              ((v.target == v.x && v.y == v.first) || (v.target == v.y && v.x == v.first));
      },
      sameNumberIsSafe, End::RightTop},
     {"C2",
      [](const View& v) {
-       return !v.isDouble() && ((v.target == v.y && v.x == v.second) ||
-                                (v.target == v.x && v.y == v.second));
+       return !v.isDouble() &&
+              ((v.target == v.y && v.x == v.second) || (v.target == v.x && v.y == v.second));
      },
      sameNumberIsSafe, End::LeftBottom},
 }};
@@ -86,9 +86,8 @@ std::optional<Selection> passD(GameState& s) {
   std::optional<Selection> found;
   scanHand(s, upwards, [&](int j) {
     if (!holds(s, j)) return false;
-    const bool opposite =
-        (matchesEnd(s, j, End::RightTop) && s.kotak[1] == s.larangan) ||
-        (matchesEnd(s, j, End::LeftBottom) && s.kotak[0] == s.larangan);
+    const bool opposite = (matchesEnd(s, j, End::RightTop) && s.kotak[1] == s.larangan) ||
+                          (matchesEnd(s, j, End::LeftBottom) && s.kotak[0] == s.larangan);
     if (!opposite || !sameNumberIsSafe(s)) return false;
     found = Selection{j, End::RightTop};
     return true;

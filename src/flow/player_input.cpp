@@ -15,9 +15,7 @@ namespace mevracard {
 
 namespace {
 
-bool isHeld(const GameState& s, int card) {
-  return s.held.at(static_cast<std::size_t>(card)) == 1;
-}
+bool isHeld(const GameState& s, int card) { return s.held.at(static_cast<std::size_t>(card)) == 1; }
 
 /// During the tutorial the player's cards are played by NEXT alone; after the end by nobody, also
 /// when a new table size has shown the Discard button again.

@@ -14,9 +14,7 @@ namespace {
 constexpr std::string_view youWin = "You win";
 constexpr std::string_view youLose = "You lose";
 
-Leftover playersLeftover(const MainWindow& w) {
-  return leftover(w.state, playerFirst, playerLast);
-}
+Leftover playersLeftover(const MainWindow& w) { return leftover(w.state, playerFirst, playerLast); }
 
 Leftover computersLeftover(const MainWindow& w) {
   return leftover(w.state, computerFirst, computerLast);

@@ -38,9 +38,7 @@ int noPlayableCard(const GameState& s, int lo, int hi) {
   return 1;
 }
 
-bool playerIsStuck(const GameState& s) {
-  return noPlayableCard(s, playerFirst, playerLast) == 1;
-}
+bool playerIsStuck(const GameState& s) { return noPlayableCard(s, playerFirst, playerLast) == 1; }
 
 bool computerIsStuck(const GameState& s) {
   return noPlayableCard(s, computerFirst, computerLast) == 1;

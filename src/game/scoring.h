@@ -6,7 +6,7 @@
 namespace mevracard {
 
 struct Leftover {
-  int sum = 0;    ///< of all numbers on the cards
+  int sum = 0;  ///< of all numbers on the cards
   int cards = 0;
 };
 

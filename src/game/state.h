@@ -7,9 +7,9 @@
 namespace mevracard {
 
 constexpr int cardCount = 28;
-constexpr int handSize = 14;          ///< slots 0 to 13 are the player's, 14 to 27 the computer's
-constexpr int noSelection = 15;       ///< `selectedCard`: none; never a slot of the player's
-constexpr int noTacticalNumber = 7;   ///< `larangan`, `bahaya`, `bahaya2`: none
+constexpr int handSize = 14;         ///< slots 0 to 13 are the player's, 14 to 27 the computer's
+constexpr int noSelection = 15;      ///< `selectedCard`: none; never a slot of the player's
+constexpr int noTacticalNumber = 7;  ///< `larangan`, `bahaya`, `bahaya2`: none
 constexpr int designScreenValue = 100;
 
 /// The two ends of the chain. End 0 grows up and right, end 1 down and left.
@@ -25,12 +25,13 @@ struct GameState {
   std::optional<int> k0, k1;   ///< the card (slot) that lies at each end
   int lina = 0, linb = 0;      ///< cards laid at each end, the 0-0 not counted
 
-  int kjumlah = 0;                      ///< openings laid this game
-  std::array<int, 4> sisa{14, 14, 0, 0};  ///< cards left: computer, player; passes: computer, player
+  int kjumlah = 0;  ///< openings laid this game
+  std::array<int, 4> sisa{14, 14, 0,
+                          0};  ///< cards left: computer, player; passes: computer, player
 
-  int moveMade = 0;       ///< the card last offered was laid; after the opening: computer to move
-  int playCard = 0;       ///< slot of the card to lay
-  int layPosition = 0;    ///< grid place of the card just laid; a deal keeps it
+  int moveMade = 0;     ///< the card last offered was laid; after the opening: computer to move
+  int playCard = 0;     ///< slot of the card to lay
+  int layPosition = 0;  ///< grid place of the card just laid; a deal keeps it
   int layColumn = 0;
   int leftEndChosen = 0;  ///< the player chose the Left/Bottom end
   int ngisor = 0;         ///< the computer's card is to go to the Left/Bottom end
@@ -41,7 +42,7 @@ struct GameState {
   int theend = 0;                    ///< game over
   std::optional<int> firstDealDone;  ///< 1 once a new game was asked for; decides how a deal scales
 
-  int screenHeight = 0;                 ///< twips
+  int screenHeight = 0;  ///< twips
   int twipsPerPixel = 15;
   int screenValue = designScreenValue;  ///< screen size in force, 70 to 99 but for the design value
 
@@ -54,10 +55,10 @@ struct GameState {
   int demoMove = 0;        ///< 0: NEXT demonstrates a move; 1: NEXT lets the computer move
   int demoTick = 0;        ///< ticks of the demonstration under way
   int demoDone = 0;
-  int demoBusy = 0;        ///< a demonstrated move is under way
-  int tutorialDeal = 0;    ///< from the tutorial's start to its first demonstrated card
-  double n1 = 0, n2 = 0;   ///< the demonstration's way: offset to the target, 15-twip pixels
-  double n3 = 0, n4 = 0;   ///< and its start
+  int demoBusy = 0;       ///< a demonstrated move is under way
+  int tutorialDeal = 0;   ///< from the tutorial's start to its first demonstrated card
+  double n1 = 0, n2 = 0;  ///< the demonstration's way: offset to the target, 15-twip pixels
+  double n3 = 0, n4 = 0;  ///< and its start
 
   /// Open number, count and end card of an end by its index.
   [[nodiscard]] int activeNumber(End e) const { return kotak[static_cast<std::size_t>(e)]; }

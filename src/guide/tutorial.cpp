@@ -82,8 +82,8 @@ void letComputerMove(MainWindow& w) {
 void chooseCardToShow(MainWindow& w) {
   GameState& s = w.state;
   const bool up = scanDirection(w.desktop.random()).step > 0;
-  const ScanDirection hand = up ? ScanDirection{playerFirst, playerLast, +1}
-                                : ScanDirection{playerLast, playerFirst, -1};
+  const ScanDirection hand =
+      up ? ScanDirection{playerFirst, playerLast, +1} : ScanDirection{playerLast, playerFirst, -1};
   scanHand(s, hand, [&](int i) { return s.held[slot(i)] == 1 && matchesAny(s, i); });
 }
 

@@ -22,7 +22,7 @@ void how_hilang(MainWindow& w) {
   w.state.demoMove = 0;
   w.state.tutorialActive = 0;
   // A move that was being demonstrated must not keep the next tutorial waiting for its end.
-  giveUpDemonstration(w);
+  w.state.demoBusy = 0;
 }
 
 }  // namespace mevracard

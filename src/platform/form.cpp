@@ -49,8 +49,9 @@ void Form::bringToFront(Control& control) {
 void Form::sendToBack(Control& control) {
   auto& list = siblings(*this, control);
   list.erase(std::find(list.begin(), list.end(), &control));
-  const auto layerBegin = std::find_if(
-      list.begin(), list.end(), [&](const Control* other) { return other->layer >= control.layer; });
+  const auto layerBegin = std::find_if(list.begin(), list.end(), [&](const Control* other) {
+    return other->layer >= control.layer;
+  });
   list.insert(layerBegin, &control);
 }
 

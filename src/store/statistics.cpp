@@ -22,7 +22,8 @@ int numberOf(std::string_view digits) { return static_cast<int>(leadingNumber(di
 
 Counts countsOf(std::string_view fileText) {
   const std::string digits = decodeDigits(fileText.substr(0, codedLength));
-  return {digits.substr(0, 3), digits.substr(digits.size() - std::min<std::size_t>(3, digits.size()))};
+  return {digits.substr(0, 3),
+          digits.substr(digits.size() - std::min<std::size_t>(3, digits.size()))};
 }
 
 /// Three digits with leading zeros; a longer number is no count and gives an empty text.

@@ -13,7 +13,7 @@ inline constexpr std::string_view statisticsFile = "sys32rtn.dat";
 enum class RecordMode { Clear = 0, Won = 1, Lost = 2 };
 
 struct RecordUpdate {
-  std::string text;             ///< the file's new text
+  std::string text;           ///< the file's new text
   bool startedAgain = false;  ///< 999 games were recorded, the counts began at 0 again
 };
 

@@ -5,8 +5,8 @@
 /// The colours of the windows, by the names that the design gives them.
 namespace mevracard {
 
-inline constexpr Color handColour{192, 255, 192};    ///< window, card faces and number labels
-inline constexpr Color selectionColour{255, 0, 0};   ///< a selected or pointed-at number
+inline constexpr Color handColour{192, 255, 192};   ///< window, card faces and number labels
+inline constexpr Color selectionColour{255, 0, 0};  ///< a selected or pointed-at number
 inline constexpr Color black{0, 0, 0};
 inline constexpr Color white{255, 255, 255};
 inline constexpr Color paleGreen{128, 255, 128};

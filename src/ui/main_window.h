@@ -6,8 +6,8 @@
 
 #include "game/deal.h"
 #include "game/state.h"
-#include "platform/form.h"
 #include "platform/desktop.h"
+#include "platform/form.h"
 #include "store/settings.h"
 #include "ui/about_window.h"
 #include "ui/statistics_window.h"
@@ -26,7 +26,7 @@ struct MainWindow {
 
   Desktop& desktop;
   GameState state;
-  LevelFields levels;         ///< as written to the settings file
+  LevelFields levels;               ///< as written to the settings file
   std::optional<Deck> stackedDeck;  ///< dealt instead of a shuffled one, to set up a situation
 
   Form form;
@@ -38,7 +38,7 @@ struct MainWindow {
   std::array<Line, 4> Line2;  ///< border
   std::array<Line, 2> linec;  ///< guide lines
   std::array<Line, 2> Line3;
-  Shape kjumlah;               ///< centre square
+  Shape kjumlah;                ///< centre square
   std::array<Shape, 2> hubung;  ///< turn markers
   std::array<Shape, 2> kotak;
   std::array<Label, 2> Label7;  ///< captions of the hands
@@ -67,8 +67,8 @@ struct MainWindow {
   Label ScreenControl, gambarscr, MinMax;
   ScrollBar scrctrl;
   Button cmdscreen;
-  std::array<Shape, 3> mntBox;    ///< `mnt1`, `mnt2`, `mnt6`
-  std::array<Line, 8> mntLine;    ///< `mnt3` to `mnt5`, `mnt7` to `mnt11`
+  std::array<Shape, 3> mntBox;  ///< `mnt1`, `mnt2`, `mnt6`
+  std::array<Line, 8> mntLine;  ///< `mnt3` to `mnt5`, `mnt7` to `mnt11`
 
   // Menu
   MenuEntry file, plevel, pl1, pl2, clevel, cl1, cl2, rg, stat, exit;

@@ -184,8 +184,8 @@ void addStatusAndChoice(MainWindow& w) {
     label.visible = false;
   }
   addAll(w.form, w.akhir, "akhir");
-  for (Control* control : std::initializer_list<Control*>{&w.tanda, &w.kanan, &w.kiri, &w.canc,
-                                                          &w.mulai, &w.hilang}) {
+  for (Control* control :
+       std::initializer_list<Control*>{&w.tanda, &w.kanan, &w.kiri, &w.canc, &w.mulai, &w.hilang}) {
     control->layer = Layer::Cards;
   }
   w.form.add(w.tanda, "tanda");

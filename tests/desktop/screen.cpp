@@ -5,8 +5,9 @@
 #include <QFile>
 #include <QMessageBox>
 #include <QScreen>
-#include <QtTest/QTest>
 #include <numeric>
+
+#include <QtTest/QTest>
 
 #include "store/statistics.h"
 

@@ -1,7 +1,7 @@
 // The demonstration in the real window: the system's own pointer, and a whole game by NEXT alone.
-#include <gtest/gtest.h>
-
 #include <QScreen>
+
+#include <gtest/gtest.h>
 
 #include "game/rules.h"
 #include "screen.h"

@@ -1,7 +1,7 @@
 // Whole games in the real window, through the X server's mouse and keyboard.
-#include <gtest/gtest.h>
-
 #include <QRandomGenerator>
+
+#include <gtest/gtest.h>
 
 #include "game/rules.h"
 #include "screen.h"
@@ -63,9 +63,10 @@ class Player {
       const auto slot = static_cast<std::size_t>(i);
       if (s.held[slot] != 1 || !matchesAny(s, i)) continue;
       lay(i);
-      ASSERT_TRUE(screen_.waitFor(
-          [&] { return s.held[slot] == 0 || screen_.window().canc.visible; }))
-          << "card " << i << " was not laid";
+      ASSERT_TRUE(screen_.waitFor([&] {
+        return s.held[slot] == 0 || screen_.window().canc.visible;
+      })) << "card "
+          << i << " was not laid";
       return;
     }
     FAIL() << "the player is asked to move and cannot";
@@ -149,10 +150,13 @@ TEST(WholeGame, SurvivesAStorm) {
       const QPoint at = draw.bounded(3) == 0
                             ? area.topLeft() + QPoint(draw.bounded(area.width()),
                                                       60 + draw.bounded(area.height() - 60))
-                            : screen.widget(screen.window().k[card])
-                                  .mapToGlobal(QPoint(15, 30));
+                            : screen.widget(screen.window().k[card]).mapToGlobal(QPoint(15, 30));
       commands << "mousemove" << QString::number(at.x()) << QString::number(at.y()) << "click"
-               << "--repeat" << "2" << "--delay" << "5" << "1";
+               << "--repeat"
+               << "2"
+               << "--delay"
+               << "5"
+               << "1";
     }
     screen.tool(commands);
     screen.settle(40);

@@ -1,12 +1,12 @@
 // Menus, the other windows, the screen size and covered cards, as they stand on the screen.
-#include <gtest/gtest.h>
-
 #include <QAccessible>
-#include <QRegularExpression>
 #include <QPixmap>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QScrollBar>
+
 #include <QtTest/QTest>
+#include <gtest/gtest.h>
 
 #include "game/rules.h"
 #include "guide/tip_text.h"
@@ -138,10 +138,12 @@ TEST(ScreenSize, ComesBackToTheSamePicture) {
   screen.shoot("panel");
   auto& bar = dynamic_cast<QScrollBar&>(screen.widget(w.scrctrl));
   for (int round = 0; round < 20; ++round) {
-    for (int value = 98; value >= 70; --value) bar.triggerAction(QAbstractSlider::SliderSingleStepSub);
+    for (int value = 98; value >= 70; --value)
+      bar.triggerAction(QAbstractSlider::SliderSingleStepSub);
     ASSERT_EQ(w.scrctrl.value, 70);
     if (round == 0) screen.shoot("smallest");
-    for (int value = 71; value <= 99; ++value) bar.triggerAction(QAbstractSlider::SliderSingleStepAdd);
+    for (int value = 71; value <= 99; ++value)
+      bar.triggerAction(QAbstractSlider::SliderSingleStepAdd);
     ASSERT_EQ(w.scrctrl.value, 99);
   }
   screen.click(w.cmdscreen);

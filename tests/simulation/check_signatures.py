@@ -1,4 +1,4 @@
-"""check_signatures.py [--record] PROGRAM SIGNATURES
+"""check_signatures.py [--record] SIGNATURES PROGRAM
 
 Has PROGRAM play what each line of SIGNATURES asks for and compares the signature. A changed number
 means that a side plays or ends a game differently than before. If that is wanted, --record writes
@@ -23,7 +23,7 @@ def signature(program, values):
 def main():
     arguments = sys.argv[1:]
     record = arguments[:1] == ["--record"]
-    program, path = arguments[record:]
+    path, program = arguments[record:]
     with open(path, encoding="utf-8") as file:
         lines = file.read().splitlines()
     checked, complaints = 0, []

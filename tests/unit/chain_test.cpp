@@ -1,8 +1,8 @@
 // The pure rules of the table: dealing, matching, the winding chain, the count at the end.
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <set>
+
+#include <gtest/gtest.h>
 
 #include "game/deal.h"
 #include "game/grid.h"
@@ -63,12 +63,18 @@ struct LayingRow {
 // is the last row of each end: it keeps the touching half of the row before.
 TEST(Grid, WindsAtTheTurns) {
   constexpr End right = End::RightTop, left = End::LeftBottom;
-  for (const LayingRow& row : {LayingRow{right, 1, 7, 0, true, false}, {right, 7, 13, 0, true, false},
-                               {right, 8, 13, 1, false, true}, {right, 21, 0, 1, false, true},
-                               {right, 22, 0, 2, true, true}, {right, 24, 2, 2, true, true},
-                               {left, 1, 5, 0, false, true}, {left, 6, 0, 0, false, true},
-                               {left, 7, 0, 1, true, false}, {left, 20, 13, 1, true, false},
-                               {left, 21, 13, 2, false, false}, {left, 23, 11, 2, false, false}}) {
+  for (const LayingRow& row : {LayingRow{right, 1, 7, 0, true, false},
+                               {right, 7, 13, 0, true, false},
+                               {right, 8, 13, 1, false, true},
+                               {right, 21, 0, 1, false, true},
+                               {right, 22, 0, 2, true, true},
+                               {right, 24, 2, 2, true, true},
+                               {left, 1, 5, 0, false, true},
+                               {left, 6, 0, 0, false, true},
+                               {left, 7, 0, 1, true, false},
+                               {left, 20, 13, 1, true, false},
+                               {left, 21, 13, 2, false, false},
+                               {left, 23, 11, 2, false, false}}) {
     const Laying laying = layingOf(row.end, row.n);
     SCOPED_TRACE(row.n);
     EXPECT_EQ(laying.position, row.position);

@@ -21,13 +21,24 @@ struct SettingsRow {
 // QUIRK-25 (anything but "1" is level 2), QUIRK-26 (two digits of the size are read).
 TEST(Settings, AreReadByPosition) {
   using std::string_view_literals::operator""sv;
-  for (const SettingsRow& row :
-       {SettingsRow{"1/1/99\r\n", 1, 1, 99}, {"2/1/85\r\n", 2, 1, 85}, {"1/2/70", 1, 2, 70},
-        {"0/1/85\r\n", 2, 1, 85}, {"9/9/72", 2, 2, 72}, {"1x1x99999", 1, 1, 99},
-        {"85", 2, 2, 85}, {"1/1/855\r\n", 1, 1, 85}, {"1//100\r\n", 0, 0, 0},
-        {"1/1/100\r\n", 0, 0, 0}, {"1/1/69\r\n", 0, 0, 0}, {"1/1/9\r\n", 0, 0, 0},
-        {"9/9/42", 0, 0, 0}, {"", 0, 0, 0}, {"1", 0, 0, 0}, {"abcdefgh", 0, 0, 0},
-        {"\0\0\0\0\0\0\0"sv, 0, 0, 0}, {"1/1/-9", 0, 0, 0}}) {
+  for (const SettingsRow& row : {SettingsRow{"1/1/99\r\n", 1, 1, 99},
+                                 {"2/1/85\r\n", 2, 1, 85},
+                                 {"1/2/70", 1, 2, 70},
+                                 {"0/1/85\r\n", 2, 1, 85},
+                                 {"9/9/72", 2, 2, 72},
+                                 {"1x1x99999", 1, 1, 99},
+                                 {"85", 2, 2, 85},
+                                 {"1/1/855\r\n", 1, 1, 85},
+                                 {"1//100\r\n", 0, 0, 0},
+                                 {"1/1/100\r\n", 0, 0, 0},
+                                 {"1/1/69\r\n", 0, 0, 0},
+                                 {"1/1/9\r\n", 0, 0, 0},
+                                 {"9/9/42", 0, 0, 0},
+                                 {"", 0, 0, 0},
+                                 {"1", 0, 0, 0},
+                                 {"abcdefgh", 0, 0, 0},
+                                 {"\0\0\0\0\0\0\0"sv, 0, 0, 0},
+                                 {"1/1/-9", 0, 0, 0}}) {
     SCOPED_TRACE(row.text);
     const auto settings = parseSettings(row.text);
     ASSERT_EQ(settings.has_value(), row.screen != 0);

@@ -21,7 +21,7 @@ PURE = {
     "store/statistics",
 }
 DESKTOPS = ("platform/qt/", "platform/headless/")
-TOOLKIT_ALLOWED = ("src/platform/qt/", "tests/desktop/")
+TOOLKIT_ALLOWED = ("src/platform/qt/", "tests/desktop/", "bench/desktop/")
 INCLUDE = re.compile(r'\s*#\s*include\s*([<"])([^>"]+)')
 
 

@@ -5,13 +5,9 @@
 #include <string_view>
 #include <vector>
 
-namespace mevracard {
+#include "platform/qt/default_file.h"
 
-/// A file that a new data directory begins with.
-struct DefaultFile {
-  std::string name;
-  std::string text;
-};
+namespace mevracard {
 
 /// The program's data files: bytes by name, in one directory. Readers never see half a file, and of
 /// two programs that write at once neither undoes the other's work unseen.

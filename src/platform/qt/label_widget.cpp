@@ -77,6 +77,7 @@ void LabelWidget::fit() {
 void LabelWidget::fitScrollBar() {
   if (scrollBar_ == nullptr) {
     scrollBar_ = new QScrollBar(Qt::Vertical, this);
+    scrollBar_->hide();
     scrollBar_->setFocusPolicy(Qt::StrongFocus);
     connect(scrollBar_, &QScrollBar::valueChanged, this, qOverload<>(&QLabel::update));
   }

@@ -52,10 +52,13 @@ QColor toColor(Color color) { return {color.red, color.green, color.blue}; }
 
 QFont toFont(const Font& font) {
   constexpr double pixelsPerPoint = 96.0 / 72.0;
+  // Rather a little larger than smaller: small digits are hard to read, and captions that do not
+  // fit are made smaller anyway.
+  constexpr double smallestStepUp = 0.25;
   const double pixels = std::clamp(font.size * pixelsPerPoint, 1.0, double{largestFont});
   QFont result;
   result.setFamilies(familiesOf(font.family));
-  result.setPixelSize(static_cast<int>(std::lround(pixels)));
+  result.setPixelSize(static_cast<int>(std::ceil(pixels - smallestStepUp)));
   result.setBold(font.bold);
   result.setItalic(font.italic);
   return result;

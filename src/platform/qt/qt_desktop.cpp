@@ -91,7 +91,8 @@ bool QtDesktop::deliver(const Event& event) {
 }
 
 void QtDesktop::deliverDueTicks() {
-  // A tick may open a window that was never shown before.
+  // A tick may open a window that was never shown before, which then joins the list.
+  // NOLINTNEXTLINE(modernize-loop-convert)
   for (std::size_t i = 0; i < windows_.size(); ++i) windows_[i]->deliverDueTick();
 }
 
