@@ -42,7 +42,7 @@ void closePanel(MainWindow& w) {
 /// A reply that was due stays due, else a player who cannot move would wait
 /// for ever; and the choice must not go on with the refused card.
 void refuseCard(MainWindow& w, bool replyWasDue) {
-  if (replyWasDue) w.jam.arm(w.jam.interval);
+  if (replyWasDue) w.jam.goOn();
   if (!choiceIsOpen(w)) return;
   closeChoice(w);
   w.showTurn(replyWasDue ? computersTurn : yourTurn);

@@ -31,6 +31,8 @@ struct Timer {
 
   void arm(int milliseconds);
   void disarm() { enabled = false; }
+  /// Takes back a disarming of the same event: the interval under way goes on.
+  void goOn() { enabled = true; }
 };
 
 /// A window.

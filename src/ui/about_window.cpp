@@ -10,7 +10,7 @@ constexpr const char* serif = "Times New Roman";
 const LabelLook heading{paleGreen, black, {serif, 11.25F, true, true}};
 const LabelLook linkText{paleGreen, blue, {"MS Sans Serif", 9.75F}};
 const LabelLook bodyText{paleGreen, blue, {}};
-// The emblem's texts stand inside the card outlines, which must stay whole.
+// The emblem's texts reach over the card outlines, which must stay whole.
 const LabelLook cardText{paleGreen, blue, {serif, 9.75F}, Alignment::Centre, false, false};
 const LabelLook cardName{paleGreen, blue, {serif, 9.0F}, Alignment::Centre, false, false};
 
@@ -21,8 +21,8 @@ void designEmblem(AboutWindow& w) {
   design(w.triangle[2], 3000, 1440, 3240, 2160, activeTitleBar, 3);
   design(w.triangle[3], 3000, 1440, 4440, 2160, activeTitleBar, 3);
   design(w.triangle[4], 1680, 2160, 4440, 2160, emblemBlue, 5);
-  outline(w.cards[0], ShapeForm::Rectangle, {2040, 1800, 495, 735}, black);
-  outline(w.cards[1], ShapeForm::Rectangle, {3480, 1800, 495, 735}, black);
+  solid(w.cards[0], ShapeForm::Rectangle, {2040, 1800, 495, 735}, handColour, black);
+  solid(w.cards[1], ShapeForm::Rectangle, {3480, 1800, 495, 735}, handColour, black);
   design(w.numbers[0], {2040, 1800, 495, 255}, "0",     cardText);
   design(w.numbers[1], {2160, 2280, 255, 255}, "0",     cardText);
   design(w.numbers[2], {3480, 1800, 495, 255}, "Zub",   cardText);
@@ -57,8 +57,9 @@ AboutWindow::AboutWindow() {
   form.add(mainh, "mainh");
   form.add(Label1, "Label1");
   addAll(form, triangle, "triangle");
-  addAll(form, numbers, "numbers");
   addAll(form, cards, "cards");
+  form.bringToFront(triangle[4]);  // the base line is the divider of both cards
+  addAll(form, numbers, "numbers");
   form.add(apex, "apex");
   form.add(additional, "additional");
   form.add(ctrcom, "ctrcom");

@@ -76,6 +76,8 @@ FormWindow::FormWindow(Form& form, Deliver deliver, QWidget* mainWindow)
 void FormWindow::flush() {
   flushing_ = true;
   setWindowTitle(toText(form_.caption));
+  const Position position{form_.left, form_.top};
+  if (std::exchange(flushedPosition_, position) != position) placeOnScreen();
   if (menu_ != nullptr) {
     menu_->flush();
     menuBar()->setEnabled(form_.enabled);

@@ -64,6 +64,7 @@ class FormWindow final : public QMainWindow, private WidgetHost {
   bool tickDue_ = false;
   bool flushing_ = false;
   Control* flushedFocus_ = nullptr;
+  Position flushedPosition_;
 };
 
 }  // namespace mevracard

@@ -60,7 +60,9 @@ void Glides::start() {
     const QWidget& widget = *glide.widget;
     const bool seen = widget.isVisible() && !canvas_.window()->isMinimized() &&
                       !widget.size().isEmpty() && canvas_.rect().intersects(widget.geometry());
-    if (seen && glide.path.size() > 1 && !motionIsReduced()) begin(std::move(glide));
+    // After absurd rescaling one card may fill the table many times over.
+    const bool handy = widget.width() <= canvas_.width() && widget.height() <= canvas_.height();
+    if (seen && handy && glide.path.size() > 1 && !motionIsReduced()) begin(std::move(glide));
   }
 }
 

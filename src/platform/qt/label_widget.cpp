@@ -89,7 +89,8 @@ void LabelWidget::fitScrollBar() {
   scrollBar_->setRange(0, qMax(0, fitted_.height - all.height()));
   scrollBar_->setPageStep(all.height());
   scrollBar_->setSingleStep(QFontMetrics(fitted_.font).height());
-  scrollBar_->setValue(0);
+  // What does not fit has grown at its end, and there stands what is new.
+  scrollBar_->setValue(scrollBar_->maximum());
 }
 
 void LabelWidget::resizeEvent(QResizeEvent* /*event*/) {

@@ -13,7 +13,7 @@ namespace mevracard {
 namespace {
 
 constexpr double farAway = 100000;
-constexpr int largestFont = 500;
+constexpr double largestFont = 500;
 
 int roundedPixels(float twips) { return static_cast<int>(std::lround(toPixels(twips))); }
 
@@ -55,7 +55,8 @@ QFont toFont(const Font& font) {
   // Rather a little larger than smaller: small digits are hard to read, and captions that do not
   // fit are made smaller anyway.
   constexpr double smallestStepUp = 0.25;
-  const double pixels = std::clamp(font.size * pixelsPerPoint, 1.0, double{largestFont});
+  const double wanted = font.size * pixelsPerPoint;
+  const double pixels = wanted >= 1 ? std::min(wanted, largestFont) : 1;  // also if no number
   QFont result;
   result.setFamilies(familiesOf(font.family));
   result.setPixelSize(static_cast<int>(std::ceil(pixels - smallestStepUp)));
