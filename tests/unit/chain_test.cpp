@@ -6,7 +6,6 @@
 
 #include "game/deal.h"
 #include "game/grid.h"
-#include "game/rules.h"
 #include "game/scoring.h"
 #include "platform/seeded_random.h"
 
@@ -85,43 +84,6 @@ TEST(Grid, WindsAtTheTurns) {
   EXPECT_EQ(chainPlace(left, 0, 1).left, 5880);
   EXPECT_EQ(chainPlace(right, 13, 2).left, 8760);
   EXPECT_EQ(chainPlace(right, 13, 2).top, 1680);
-}
-
-// QUIRK-02: the second turn of the Left/Bottom end moves marker 0, not 1.
-TEST(Grid, MovesTheMarkers) {
-  EXPECT_EQ(markerMoveOf(End::LeftBottom, 7)->marker, 1U);
-  EXPECT_EQ(markerMoveOf(End::LeftBottom, 21)->marker, 0U);
-  EXPECT_EQ(markerMoveOf(End::LeftBottom, 21)->place.left, 5400);
-  int moves = 0;
-  for (int n = 1; n <= 27; ++n) {
-    for (const End end : {End::RightTop, End::LeftBottom}) moves += markerMoveOf(end, n) ? 1 : 0;
-  }
-  EXPECT_EQ(moves, 4);
-}
-
-// Slot 9's row must not leak into slot 14's: the two hands meet at that border.
-TEST(Rules, LookAtHeldCardsOfTheRangeOnly) {
-  GameState s;
-  s.a.fill(6);
-  s.b.fill(6);
-  s.kotak = {2, 5};
-  s.held.fill(1);
-  EXPECT_TRUE(playerIsStuck(s));
-  s.b[14] = 5;
-  EXPECT_TRUE(playerIsStuck(s));
-  EXPECT_FALSE(computerIsStuck(s));
-  s.held[14] = 0;
-  EXPECT_TRUE(computerIsStuck(s));
-  s.a[13] = 2;
-  EXPECT_FALSE(playerIsStuck(s));
-  EXPECT_FALSE(makesSameNumber(s, 13));
-  s.b[13] = 5;
-  EXPECT_TRUE(makesSameNumber(s, 13));
-  s.kotak = {5, 2};
-  EXPECT_TRUE(makesSameNumber(s, 13));
-  s.kotak = {6, 6};  // a double bears both numbers but leaves no choice
-  EXPECT_TRUE(bearsBothActiveNumbers(s, 0));
-  EXPECT_FALSE(makesSameNumber(s, 0));
 }
 
 // The order of the tie-breaks, QUIRK-20: a full tie is the player's loss.

@@ -88,14 +88,6 @@ TEST(Statistics, StartAgainAt999) {
   EXPECT_EQ(updatedRecord(record("1"), RecordMode::Won).text, encodeDigits("0021") + "\r\n");
 }
 
-// QUIRK-34: the percentages are cut off.
-TEST(Statistics, ShowPercentages) {
-  const Figures figures = figuresOf(record("001002"));
-  EXPECT_EQ(figures.wonPercent, 33);
-  EXPECT_EQ(figures.lostPercent, 66);
-  EXPECT_EQ(figuresOf(record("000000")).wonPercent, 0);
-}
-
 // Torn and foreign files: nothing is read past the end, and the result is a file that reads again.
 TEST(Statistics, TakeAnyText) {
   for (const std::string& text :
