@@ -18,11 +18,11 @@ struct Met {
 /// Holds the table after every event against what must always be true.
 class TableWatch {
  public:
-  explicit TableWatch(const MainWindow& w) : w_(w) {}
+  /// What it meets is added to `met`.
+  TableWatch(const MainWindow& w, Met& met) : w_(w), met_(met) {}
 
   /// To be called after every event. Null, or what does not hold.
   [[nodiscard]] const char* complaint();
-  [[nodiscard]] const Met& met() const { return met_; }
 
  private:
   const char* aboutChain();
@@ -35,7 +35,7 @@ class TableWatch {
   std::array<int, 2> open_{};                  ///< the number that the last card of each end opened
   std::array<std::optional<int>, 2> endCard_;  ///< that card
   int surplus_ = 0;                            ///< cards of the computer that its count has missed
-  Met met_;
+  Met& met_;
   // As they stood after the event before.
   std::array<int, 4> sisa_{14, 14, 0, 0};
   int theend_ = 0;

@@ -18,7 +18,7 @@ constexpr int mostEvents = 100'000;  // for these; about 3,000 are usual
 /// A started program and its restless player. All that happens is kept as script lines.
 class Session {
  public:
-  explicit Session(std::uint64_t seed) : random_(seed) {
+  Session(std::uint64_t seed, Met& met) : random_(seed), watch_(w_, met) {
     setClock();
     script_ += "start\n";
     program_.start();
@@ -30,7 +30,6 @@ class Session {
   /// What does not hold; empty as long as all is well.
   [[nodiscard]] const std::string& complaint() const { return complaint_; }
   [[nodiscard]] const std::string& script() const { return script_; }
-  [[nodiscard]] const Met& met() const { return watch_.met(); }
 
  private:
   void look() {
@@ -148,7 +147,7 @@ class Session {
   HeadlessDesktop desktop_{[this](std::string_view line) { listen(line); }};
   Program program_{desktop_};
   MainWindow& w_ = program_.window();
-  TableWatch watch_{w_};
+  TableWatch watch_;
   std::string complaint_, script_;
 };
 
@@ -176,21 +175,9 @@ void Session::doSomething() {
   }
 }
 
-void add(Met& sum, const Met& more) {
-  sum.wins += more.wins;
-  sum.losses += more.losses;
-  sum.deadlocks += more.deadlocks;
-  sum.abandoned += more.abandoned;
-  sum.choices += more.choices;
-  sum.hurriedCards += more.hurriedCards;
-  sum.computersExtraCards += more.computersExtraCards;
-  sum.playersPasses += more.playersPasses;
-  sum.computersPasses += more.computersPasses;
-}
-
 /// Plays on until so many games are over; what was met is added to `met`.
 void playGames(std::uint64_t seed, int games, Met& met) {
-  Session session(seed);
+  Session session(seed, met);
   int over = 0;
   for (int events = 0; over < games && session.complaint().empty(); ++events) {
     ASSERT_LT(events, mostEvents) << "a game does not end:\n" << session.script();
@@ -199,7 +186,6 @@ void playGames(std::uint64_t seed, int games, Met& met) {
     if (wasRunning && session.gameIsOver()) ++over;
   }
   ASSERT_EQ(session.complaint(), "") << "after these events:\n" << session.script();
-  add(met, session.met());
 }
 
 TEST(WholeGames, KeepTheTableInOrderAndEnd) {

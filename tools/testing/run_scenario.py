@@ -1,4 +1,4 @@
-"""run.py [--record] PROGRAM SCRIPT EXPECTED
+"""run_scenario.py [--record] PROGRAM SCRIPT EXPECTED
 
 Feeds SCRIPT to PROGRAM and compares what it prints with EXPECTED, line by line. A run that ends with
 a status other than 0, or writes to standard error, has that as its last lines: "exit 2: line 3: WHY".
