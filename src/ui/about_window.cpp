@@ -31,13 +31,6 @@ void designEmblem(AboutWindow& w) {
 }
 // clang-format on
 
-template <typename Array>
-void addAll(Form& form, Array& controls, std::string_view name) {
-  for (std::size_t i = 0; i < controls.size(); ++i) {
-    form.add(controls[i], name, static_cast<int>(i));
-  }
-}
-
 }  // namespace
 
 AboutWindow::AboutWindow() {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/control.h"
+#include "platform/form.h"
 #include "ui/colors.h"
 
 /// One call a row for the control tables of the windows.
@@ -65,6 +65,14 @@ inline void solid(Shape& shape, ShapeForm form, const Rect& at, Color fill, Colo
   outline(shape, form, at, edge);
   shape.filled = true;
   shape.fillColor = fill;
+}
+
+/// Puts an array of like controls on a window, told apart by their index.
+template <typename Array>
+void addAll(Form& form, Array& controls, std::string_view name) {
+  for (std::size_t i = 0; i < controls.size(); ++i) {
+    form.add(controls[i], name, static_cast<int>(i));
+  }
 }
 
 }  // namespace mevracard

@@ -133,13 +133,6 @@ void designPanels(MainWindow& w) {
 }
 // clang-format on
 
-template <typename Array>
-void addAll(Form& form, Array& controls, std::string_view name) {
-  for (std::size_t i = 0; i < controls.size(); ++i) {
-    form.add(controls[i], name, static_cast<int>(i));
-  }
-}
-
 void hideAll(std::initializer_list<Control*> controls) {
   for (Control* control : controls) control->visible = false;
 }
