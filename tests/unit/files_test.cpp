@@ -1,9 +1,11 @@
 // The texts of the two data files: what is read from odd ones, and the record's arithmetic.
 #include <gtest/gtest.h>
 
+#include "app/program.h"
+#include "platform/headless/headless_desktop.h"
 #include "store/digit_code.h"
+#include "store/recording.h"
 #include "store/settings.h"
-#include "store/statistics.h"
 
 namespace mevracard {
 namespace {
@@ -102,6 +104,34 @@ TEST(Statistics, TakeAnyText) {
   }
   EXPECT_EQ(figuresOf(updatedRecord("", RecordMode::Clear).text).lost, 0);
   EXPECT_EQ(figuresOf(updatedRecord(encodeDigits("001002"), RecordMode::Won).text).won, 2);
+}
+
+// A whole start on an odd file: the game begins, the other file loses nothing that it need not, and
+// the next result is kept.
+TEST(DataFiles, OddOnesNeverStopAStart) {
+  for (const std::string& odd : {std::string(), std::string("2"), std::string(10'000'000, '1'),
+                                 std::string(7, '\0'), std::string("1/1/99"), std::string("abc"),
+                                 std::string("9/9/42"), std::string("2/2/85\r\n")}) {
+    for (const std::string_view name : {settingsFile, statisticsFile}) {
+      HeadlessDesktop desktop;
+      auto& files = desktop.world.files;
+      files[std::string(settingsFile)] = "2/1/80\r\n";
+      files[std::string(statisticsFile)] = record("001002");
+      files[std::string(name)] = odd;
+      Program program(desktop);
+      program.start();
+      EXPECT_EQ(program.window().state.kjumlah, 1);
+      EXPECT_TRUE(parseSettings(files[std::string(settingsFile)]).has_value());
+      const bool torn = name == settingsFile && !parseSettings(odd);
+      if (name == settingsFile) {
+        EXPECT_EQ(figuresOf(files[std::string(statisticsFile)]).lost, torn ? 0 : 2);
+      } else {
+        EXPECT_EQ(files[std::string(settingsFile)], "2/1/80\r\n");
+      }
+      recordResult(program.window(), RecordMode::Clear);
+      EXPECT_EQ(figuresOf(files[std::string(statisticsFile)]).lost, 0);
+    }
+  }
 }
 
 }  // namespace
