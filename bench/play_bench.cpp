@@ -4,11 +4,11 @@
 
 #include <benchmark/benchmark.h>
 
-#include "ai/komputer.h"
 #include "game/rules.h"
+#include "play/computer_turn.h"
+#include "play/screen_scale.h"
 #include "simulate/game.h"
 #include "simulate/table.h"
-#include "ui/screen_scale.h"
 
 namespace {
 
@@ -30,8 +30,8 @@ std::vector<GameState> computersTurns(const Request& request, std::size_t count)
   std::vector<GameState> turns;
   for (std::uint64_t seed = 0; turns.size() < count; ++seed) {
     Table table(request, seed);
-    for (const MainWindow& w = table.window(); w.state.theend == 0; table.goOn()) {
-      if (table.computerIsToMove() && !computerIsStuck(w.state)) turns.push_back(w.state);
+    for (const MainWindow& w = table.window(); !w.state.gameOver; table.goOn()) {
+      if (table.computerIsToMove() && !mustPass(w.state, Side::Computer)) turns.push_back(w.state);
     }
   }
   return turns;
@@ -47,7 +47,7 @@ void computersTurn(benchmark::State& run) {
   std::size_t next = 0;
   for (auto _ : run) {
     w.state = turns[next++ % turns.size()];
-    komputer(w);
+    takeComputersTurn(w);
   }
 }
 BENCHMARK(computersTurn)->ArgName("level")->Arg(1)->Arg(2)->Unit(benchmark::kMicrosecond);
@@ -57,8 +57,7 @@ void screenScale(benchmark::State& run) {
   Table table({}, 0);
   MainWindow& w = table.window();
   for (auto _ : run) {
-    w.scrctrl.value = w.scrctrl.value == 99 ? 98 : 99;
-    scrctrl_Change(w);
+    scrollScreenSize(w, w.sizePanel.bar.value == 99 ? 98 : 99);
     w.present();
   }
 }

@@ -11,6 +11,7 @@
 #include "app/program.h"
 #include "game/rules.h"
 #include "platform/qt/qt_desktop.h"
+#include "store/settings.h"
 #include "store/statistics.h"
 
 namespace mevracard {
@@ -20,7 +21,8 @@ namespace {
 class QuietDesktop final : public QtDesktop {
  public:
   explicit QuietDesktop(const QString& dataDir)
-      : QtDesktop(dataDir, {{"wdx.sys", "1/1/99\r\n"}, {"sys32rtn.dat", emptyRecordText()}}) {}
+      : QtDesktop(dataDir, {{std::string(settingsFile), defaultSettingsText()},
+                            {std::string(statisticsFile), emptyRecordText()}}) {}
   void messageBox(std::string_view /*text*/) override {}
 };
 
@@ -79,7 +81,7 @@ void RescalingTheTable(benchmark::State& state) {
   int value = 99;
   for ([[maybe_unused]] auto step : state) {
     value = value == 99 ? 70 : 99;
-    game.program.handle({EventKind::Scroll, &w.form, &w.scrctrl, nullptr, value});
+    game.program.handle({EventKind::Scroll, &w.form, &w.sizePanel.bar, nullptr, value});
     mainWidget()->repaint();
     QCoreApplication::processEvents();
   }
@@ -90,11 +92,11 @@ BENCHMARK(RescalingTheTable)->Unit(benchmark::kMillisecond);
 int fittingCard(Game& game) {
   MainWindow& w = game.program.window();
   for (;;) {
-    for (int i = playerFirst; i <= playerLast; ++i) {
-      if (w.state.held[static_cast<std::size_t>(i)] == 1 && matchesAny(w.state, i)) return i;
+    for (const int slot : handOf(Side::Player)) {
+      if (w.state.card(slot).held && fits(w.state, slot)) return slot;
     }
     w.form.enabled = true;
-    game.program.handle({EventKind::Menu, &w.form, nullptr, &w.rg, 0});
+    game.program.handle({EventKind::Menu, &w.form, nullptr, &w.menu.newGame, 0});
   }
 }
 
@@ -104,7 +106,7 @@ void LayingACard(benchmark::State& state) {
   MainWindow& w = game.program.window();
   for ([[maybe_unused]] auto step : state) {
     state.PauseTiming();
-    auto& card = w.k[static_cast<std::size_t>(fittingCard(game))];
+    Frame& card = w.card(fittingCard(game)).frame;
     QCoreApplication::processEvents();
     state.ResumeTiming();
     game.program.handle({EventKind::DoubleClick, &w.form, &card, nullptr, 0});

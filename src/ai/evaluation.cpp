@@ -5,24 +5,22 @@
 
 namespace mevracard {
 
-std::optional<int> HitungMevra(const GameState& s) {
-  std::optional<int> result;
-  for (int j = computerFirst; j <= computerLast; ++j) {
-    const auto card = static_cast<std::size_t>(j);
-    if (s.held[card] != 1) continue;
-    if (s.kotak[0] != s.larangan && s.kotak[1] != s.larangan) {
-      result = 0;
-    } else if (bearsBothActiveNumbers(s, j)) {
-      const int players = leftover(s, playerFirst, playerLast).sum;
-      const int computers = leftover(s, computerFirst, computerLast).sum;
-      return computers - (s.a[card] + s.b[card]) > players ? 1 : 0;
-    }
+SameNumberVerdict sameNumberVerdict(const GameState& s) {
+  const bool banShows = s.openNumber[End::RightTop] == s.bannedNumber ||
+                        s.openNumber[End::LeftBottom] == s.bannedNumber;
+  for (const int card : handOf(Side::Computer)) {
+    if (!s.card(card).held) continue;
+    if (!banShows) return SameNumberVerdict::Harmless;
+    if (!bearsBothActiveNumbers(s, card)) continue;
+    const int players = leftover(s, Side::Player).sum;
+    const int computers = leftover(s, Side::Computer).sum - s.card(card).sum();
+    return computers > players ? SameNumberVerdict::WouldLose : SameNumberVerdict::Harmless;
   }
-  return result;
+  return SameNumberVerdict::NoCard;
 }
 
-bool sameNumberWouldLose(const GameState& s) { return HitungMevra(s) == 1; }
-
-bool sameNumberIsSafe(const GameState& s) { return HitungMevra(s).value_or(0) == 0; }
+bool sameNumberWouldLose(const GameState& s) {
+  return sameNumberVerdict(s) == SameNumberVerdict::WouldLose;
+}
 
 }  // namespace mevracard

@@ -1,19 +1,20 @@
 #pragma once
 
-#include <optional>
-
 #include "game/state.h"
 
 namespace mevracard {
 
-/// The computer's view of the same-number situation. 1: an end shows `larangan`, the computer could
-/// make both ends equal, and its sum of numbers left would still be the greater one. 0: no end
-/// shows `larangan`, or the sum would not be greater. Empty: an end shows it but no card of the
-/// computer bears both active numbers, or it holds no card.
-[[nodiscard]] std::optional<int> HitungMevra(const GameState& s);
+/// What the computer thinks of making both ends show `bannedNumber`, which would block the game.
+enum class SameNumberVerdict {
+  WouldLose,  ///< it could, and its sum of numbers left would still be the greater one
+  Harmless,   ///< no end shows `bannedNumber`, or the sum would not be greater
+  NoCard,     ///< an end shows it, but the computer holds no card with both active numbers
+};
 
-/// The two tests that the rules make of it: empty counts as 0.
+/// NoCard also if the computer holds no card at all.
+[[nodiscard]] SameNumberVerdict sameNumberVerdict(const GameState& s);
+
+/// The one question that the rules ask.
 [[nodiscard]] bool sameNumberWouldLose(const GameState& s);
-[[nodiscard]] bool sameNumberIsSafe(const GameState& s);
 
 }  // namespace mevracard

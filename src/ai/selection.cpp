@@ -1,186 +1,205 @@
 #include "ai/selection.h"
 
-#include <array>
+#include <algorithm>
 
 #include "ai/evaluation.h"
 #include "ai/tactics.h"
+#include "game/rules.h"
 
 namespace mevracard {
 
 namespace {
 
-/// A card under examination: x over y, against the active numbers, a target number and `larangan`.
+/// A card under examination: x over y, against the active numbers, a target and the banned number.
 struct View {
   int x, y;
   int first, second;
-  int target, larangan;
+  int target, banned;
 
   [[nodiscard]] bool isDouble() const { return x == y; }
-  [[nodiscard]] bool fits(int number) const { return number == first || number == second; }
+  [[nodiscard]] bool isOpen(int number) const { return number == first || number == second; }
   /// The card fits an end with one number and the number that it would open is not `avoid`.
   [[nodiscard]] bool coversWithoutOpening(int avoid) const {
-    return (x != avoid && fits(y)) || (y != avoid && fits(x));
+    return (x != avoid && isOpen(y)) || (y != avoid && isOpen(x));
   }
 };
 
-View viewOf(const GameState& s, int card, int target = -1) {
-  const auto i = static_cast<std::size_t>(card);
-  return {s.a.at(i), s.b.at(i), s.kotak[0], s.kotak[1], target, s.larangan};
+View viewOf(const GameState& s, int card, int target = noNumber) {
+  return {s.card(card).upper,
+          s.card(card).lower,
+          s.openNumber[End::RightTop],
+          s.openNumber[End::LeftBottom],
+          target,
+          s.bannedNumber};
 }
 
-bool holds(const GameState& s, int card) { return s.held.at(static_cast<std::size_t>(card)) == 1; }
+/// Examines the computer's cards in scan order until one makes a move.
+template <typename Examine>
+std::optional<Move> firstMove(GameState& s, Scan scan, Examine examine) {
+  for (const int card : scanned(Side::Computer, scan)) {
+    s.playCard = card;
+    if (const std::optional<Move> move = examine(card)) return move;
+  }
+  return std::nullopt;
+}
 
-/// One row of the rank scan: the card it wants, what the same-number evaluation must say, the end.
-struct RankRule {
-  const char* name;
+/// One row of rules A to C: the card it wants, whether a same number must lose or must not lose the
+/// count, the end.
+struct TargetRule {
   bool (*applies)(const View& v);
-  bool (*evaluation)(const GameState& s);
+  bool sameNumberLoses;
   End end;
 };
 
-constexpr std::array<RankRule, 6> rankRules{{
-    {"A1", [](const View& v) { return v.isDouble() && v.x == v.first && v.larangan == v.second; },
-     sameNumberWouldLose, End::RightTop},
-    {"A2", [](const View& v) { return v.isDouble() && v.x == v.second && v.larangan == v.first; },
-     sameNumberWouldLose, End::LeftBottom},
-    {"B1", [](const View& v) { return v.isDouble() && v.target == v.x && v.x == v.first; },
-     sameNumberWouldLose, End::RightTop},
-    {"B2", [](const View& v) { return v.isDouble() && v.target == v.x && v.x == v.second; },
-     sameNumberWouldLose, End::LeftBottom},
-    {"C1",
-     [](const View& v) {
+constexpr std::array<TargetRule, 6> targetRules{{
+    // A1, A2: a double that fits one end, while the other shows the banned number.
+    {[](const View& v) { return v.isDouble() && v.x == v.first && v.banned == v.second; }, true,
+     End::RightTop},
+    {[](const View& v) { return v.isDouble() && v.x == v.second && v.banned == v.first; }, true,
+     End::LeftBottom},
+    // B1, B2: the double of a target that fits an end.
+    {[](const View& v) { return v.isDouble() && v.target == v.x && v.x == v.first; }, true,
+     End::RightTop},
+    {[](const View& v) { return v.isDouble() && v.target == v.x && v.x == v.second; }, true,
+     End::LeftBottom},
+    // C1, C2: another card that turns an end into a target.
+    {[](const View& v) {
        return !v.isDouble() &&
               ((v.target == v.x && v.y == v.first) || (v.target == v.y && v.x == v.first));
      },
-     sameNumberIsSafe, End::RightTop},
-    {"C2",
-     [](const View& v) {
+     false, End::RightTop},
+    {[](const View& v) {
        return !v.isDouble() &&
               ((v.target == v.y && v.x == v.second) || (v.target == v.x && v.y == v.second));
      },
-     sameNumberIsSafe, End::LeftBottom},
+     false, End::LeftBottom},
 }};
 
-/// Rules A to C: for the two best targets, each card in scan order.
-std::optional<Selection> scanRanks(GameState& s, ScanDirection scan) {
-  TargetRank rank = targetRank(playerCounts(s));
-  findLarangan(s, rank);
-  std::optional<Selection> found;
-  for (std::size_t r = 0; r < 2 && !found; ++r) {
-    scanHand(s, scan, [&](int j) {
-      if (!holds(s, j)) return false;
-      const View view = viewOf(s, j, rank[r]);
-      for (const RankRule& rule : rankRules) {
-        if (!rule.applies(view) || !rule.evaluation(s)) continue;
-        found = Selection{j, rule.end};
-        return true;
+/// Rules A to C: for both targets, each card in scan order.
+std::optional<Move> aimAtTargets(GameState& s, Scan scan) {
+  Targets targets = rarestNumbers(playerCounts(s));
+  findBannedNumber(s, targets);
+  for (const int target : targets) {
+    const auto move = firstMove(s, scan, [&](int card) -> std::optional<Move> {
+      if (!s.card(card).held) return std::nullopt;
+      const View view = viewOf(s, card, target);
+      for (const TargetRule& rule : targetRules) {
+        if (rule.applies(view) && rule.sameNumberLoses == sameNumberWouldLose(s)) {
+          return Move{card, rule.end};
+        }
       }
-      return false;
+      return std::nullopt;
     });
+    if (move) return move;
   }
-  return found;
+  return std::nullopt;
 }
 
-/// Rule D: a card for the end opposite the one that shows `larangan`.
-std::optional<Selection> passD(GameState& s) {
-  std::optional<Selection> found;
-  scanHand(s, upwards, [&](int j) {
-    if (!holds(s, j)) return false;
-    const bool opposite = (matchesEnd(s, j, End::RightTop) && s.kotak[1] == s.larangan) ||
-                          (matchesEnd(s, j, End::LeftBottom) && s.kotak[0] == s.larangan);
-    if (!opposite || !sameNumberIsSafe(s)) return false;
-    found = Selection{j, End::RightTop};
-    return true;
+/// Rule D: a card for the end opposite the one that shows the banned number.
+std::optional<Move> leaveBannedNumber(GameState& s) {
+  return firstMove(s, Scan::Upwards, [&](int card) -> std::optional<Move> {
+    if (!s.card(card).held) return std::nullopt;
+    const bool opposite =
+        (fitsAt(s, card, End::RightTop) && s.openNumber[End::LeftBottom] == s.bannedNumber) ||
+        (fitsAt(s, card, End::LeftBottom) && s.openNumber[End::RightTop] == s.bannedNumber);
+    if (!opposite || sameNumberWouldLose(s)) return std::nullopt;
+    return Move{card, std::nullopt};
   });
-  return found;
 }
 
-/// The player holds the double `number`-`number` in this slot.
-bool playerHoldsDouble(const GameState& s, int slot, int number) {
-  return holds(s, slot) && isDouble(s, slot) && bears(s, slot, number);
+bool isHeldDouble(const Card& card, int number) {
+  return card.held && card.isDouble() && card.bears(number);
 }
 
-/// Any slot of the player's with that double.
 bool playerHoldsDouble(const GameState& s, int number) {
-  for (int i = playerFirst; i <= playerLast; ++i) {
-    if (playerHoldsDouble(s, i, number)) return true;
-  }
-  return false;
+  const auto hand = handOf(Side::Player);
+  return std::any_of(hand.begin(), hand.end(),
+                     [&](int slot) { return isHeldDouble(s.card(slot), number); });
 }
 
-/// The double that the player could lay next besides `bahaya`, among the numbers of card j.
-void findSecondDanger(GameState& s, int j) {
-  for (int i = playerFirst; i <= playerLast; ++i) {
-    const int x = s.a[static_cast<std::size_t>(i)];
-    if (playerHoldsDouble(s, i, x) && bears(s, j, x) && x != s.bahaya) s.bahaya2 = x;
+/// The double that the player could lay next besides `danger`, among the numbers of this card.
+void findSecondDanger(GameState& s, const Card& examined) {
+  for (const int slot : handOf(Side::Player)) {
+    const Card& card = s.card(slot);
+    const int number = card.upper;
+    if (isHeldDouble(card, number) && examined.bears(number) && number != s.danger) {
+      s.secondDanger = number;
+    }
     // QUIRK-23: any card of the player's slots ends the search here, held or not, also by a number
     // left over from an earlier card. One would expect each search to start afresh; the computer
     // may then overlook a double. Meant.
-    if (x == s.bahaya2) return;
+    if (number == s.secondDanger) return;
   }
 }
 
-/// Rule E for one card and one number n that it bears.
-std::optional<Selection> coverDanger(GameState& s, int j) {
-  const View v = viewOf(s, j);
-  if (!holds(s, j)) return std::nullopt;
+/// Rule E for one card.
+std::optional<Move> coverDanger(GameState& s, int card) {
+  if (!s.card(card).held) return std::nullopt;
+  const View v = viewOf(s, card);
   if (v.isDouble()) {
-    if (v.x == v.first) return Selection{j, End::RightTop};
-    if (v.x == v.second) return Selection{j, End::LeftBottom};
+    if (v.x == v.first) return Move{card, End::RightTop};
+    if (v.x == v.second) return Move{card, End::LeftBottom};
     return std::nullopt;
   }
-  if (!bears(s, j, s.bahaya)) return std::nullopt;
-  findSecondDanger(s, j);
-  if (!v.coversWithoutOpening(s.bahaya2) || !sameNumberIsSafe(s)) return std::nullopt;
-  return Selection{j, End::RightTop};
+  if (!s.card(card).bears(s.danger)) return std::nullopt;
+  findSecondDanger(s, s.card(card));
+  if (!v.coversWithoutOpening(s.secondDanger) || sameNumberWouldLose(s)) return std::nullopt;
+  return Move{card, std::nullopt};
 }
 
 /// Rule E: the computer's highest double that fits, or a card that covers the end which fits a
-/// double of the player's (`bahaya`).
-std::optional<Selection> passE(GameState& s) {
-  s.bahaya = noTacticalNumber;
-  s.bahaya2 = noTacticalNumber;
-  std::optional<Selection> found;
-  for (int n = 6; n >= 0 && !found; --n) {
-    scanHand(s, upwards, [&](int j) {
-      const bool open = n == s.kotak[0] || n == s.kotak[1];
-      if (open && playerHoldsDouble(s, n)) s.bahaya = n;
-      if (bears(s, j, n)) found = coverDanger(s, j);
-      return found.has_value();
+/// double of the player's (`danger`).
+std::optional<Move> layDoubleOrCoverDanger(GameState& s) {
+  s.danger = noNumber;
+  s.secondDanger = noNumber;
+  for (int n = 6; n >= 0; --n) {
+    const bool open = n == s.openNumber[End::RightTop] || n == s.openNumber[End::LeftBottom];
+    const auto move = firstMove(s, Scan::Upwards, [&](int card) -> std::optional<Move> {
+      if (open && playerHoldsDouble(s, n)) s.danger = n;
+      if (!s.card(card).bears(n)) return std::nullopt;
+      return coverDanger(s, card);
     });
+    if (move) return move;
   }
-  return found;
+  return std::nullopt;
 }
 
 /// Rule F: the first card that fits without opening the number of a double of the player's.
-std::optional<Selection> passF(GameState& s) {
-  s.bahaya = noTacticalNumber;
-  std::optional<Selection> found;
-  for (int n = 6; n >= 0 && !found; --n) {
-    scanHand(s, upwards, [&](int j) {
-      if (bears(s, j, n) && playerHoldsDouble(s, n)) s.bahaya = n;
-      if (holds(s, j) && viewOf(s, j).coversWithoutOpening(s.bahaya) && sameNumberIsSafe(s)) {
-        found = Selection{j, End::RightTop};
-      }
-      return found.has_value();
+std::optional<Move> openNoDanger(GameState& s) {
+  s.danger = noNumber;
+  for (int n = 6; n >= 0; --n) {
+    const auto move = firstMove(s, Scan::Upwards, [&](int card) -> std::optional<Move> {
+      if (s.card(card).bears(n) && playerHoldsDouble(s, n)) s.danger = n;
+      const bool safe = s.card(card).held && viewOf(s, card).coversWithoutOpening(s.danger);
+      if (!safe || sameNumberWouldLose(s)) return std::nullopt;
+      return Move{card, std::nullopt};
     });
+    if (move) return move;
   }
-  return found;
+  return std::nullopt;
 }
 
 }  // namespace
 
-ScanDirection scanDirection(double draw) {
+Scan scanFor(double draw) {
   // Single precision decides what still counts as one half; exactly one half scans downwards.
   const auto r = static_cast<float>(2 * draw);
-  return r > 1 ? upwards : ScanDirection{computerLast, computerFirst, -1};
+  return r > 1 ? Scan::Upwards : Scan::Downwards;
 }
 
-std::optional<Selection> selectTactically(GameState& s, ScanDirection scan) {
-  if (const auto found = scanRanks(s, scan)) return found;
-  if (const auto found = passD(s)) return found;
-  if (const auto found = passE(s)) return found;
-  return passF(s);
+std::array<int, handSize> scanned(Side side, Scan scan) {
+  std::array<int, handSize> slots{};
+  const auto hand = handOf(side);
+  std::copy(hand.begin(), hand.end(), slots.begin());
+  if (scan == Scan::Downwards) std::reverse(slots.begin(), slots.end());
+  return slots;
+}
+
+std::optional<Move> chooseTactically(GameState& s, Scan scan) {
+  if (const auto move = aimAtTargets(s, scan)) return move;
+  if (const auto move = leaveBannedNumber(s)) return move;
+  if (const auto move = layDoubleOrCoverDanger(s)) return move;
+  return openNoDanger(s);
 }
 
 }  // namespace mevracard

@@ -1,69 +1,68 @@
 #include "ai/tactics.h"
 
-#include "game/rules.h"
-
 namespace mevracard {
 
 namespace {
 
-std::size_t at(int number) { return static_cast<std::size_t>(number); }
+int& countOf(NumberCounts& counts, int number) {
+  return counts.at(static_cast<std::size_t>(number));
+}
+
+/// The number with the lowest count, of equal ones the lowest number; `otherwise` if every count
+/// reaches seven.
+int rarest(const NumberCounts& counts, std::size_t from, int otherwise) {
+  int fewest = 7;
+  for (std::size_t n = from; n < counts.size(); ++n) {
+    if (counts[n] >= fewest) continue;
+    fewest = counts[n];
+    otherwise = static_cast<int>(n);
+  }
+  return otherwise;
+}
 
 }  // namespace
 
 NumberCounts playedCounts(const GameState& s) {
-  NumberCounts count{};
-  for (std::size_t i = 0; i < cardCount; ++i) {
-    if (s.held[i] != 0 || s.a[i] == s.b[i]) continue;
-    ++count.at(at(s.a[i]));
-    ++count.at(at(s.b[i]));
+  NumberCounts counts{};
+  for (const Card& card : s.cards) {
+    if (card.held || card.isDouble()) continue;
+    ++countOf(counts, card.upper);
+    ++countOf(counts, card.lower);
   }
-  return count;
+  return counts;
 }
 
 NumberCounts playerCounts(const GameState& s) {
   // QUIRK-35: the computer looks into the player's hand. One would expect it to play by what lies
   // on the table; at level 2 the player meets an opponent that knows every card. Meant.
-  NumberCounts count{};
-  for (std::size_t i = playerFirst; i <= playerLast; ++i) {
-    if (s.held[i] != 1) continue;
-    ++count.at(at(s.a[i]));
-    if (s.b[i] != s.a[i]) ++count.at(at(s.b[i]));
+  NumberCounts counts{};
+  for (const int slot : handOf(Side::Player)) {
+    const Card& card = s.card(slot);
+    if (!card.held) continue;
+    ++countOf(counts, card.upper);
+    if (!card.isDouble()) ++countOf(counts, card.lower);
   }
-  return count;
+  return counts;
 }
 
-TargetRank targetRank(const NumberCounts& playerCount) {
-  TargetRank rank;
-  rank.fill(-1);
-  int chosen = 0;
-  for (std::size_t m = 0; m < 3; ++m) {
-    int fewest = 7;
-    for (std::size_t n = 0; n < numberCount; ++n) {
-      // QUIRK-21: asks about rank n, where the numbers already chosen stand at ranks of their own.
-      // One would expect a chosen number to be left out; after the first rank it is the number 0,
-      // after the second also the 1, and the computer may aim twice at one number. Meant.
-      if (rank[n] == -1 && playerCount[n] < fewest) {
-        fewest = playerCount[n];
-        chosen = static_cast<int>(n);
-      }
-    }
-    rank[m] = chosen;
-  }
-  return rank;
+Targets rarestNumbers(const NumberCounts& playerCount) {
+  const int best = rarest(playerCount, 0, 0);
+  // QUIRK-21: leaves out the number 0, chosen or not, in place of the number that was chosen. One
+  // would expect two different targets; the computer often aims twice at one number. Meant.
+  return {best, rarest(playerCount, 1, best)};
 }
 
-void findLarangan(GameState& s, TargetRank& rank) {
-  s.larangan = noTacticalNumber;
+void findBannedNumber(GameState& s, Targets& targets) {
+  s.bannedNumber = noNumber;
   const NumberCounts played = playedCounts(s);
-  for (int n = 0; n < static_cast<int>(numberCount); ++n) {
-    if (played[at(n)] != 5) continue;
-    for (int i = computerFirst; i <= computerLast; ++i) {
-      if (s.held[at(i)] != 1 || !bears(s, i, n)) continue;
-      s.larangan = n;
-      // QUIRK-22: repeated for every such card, so that two of them put the number on both first
-      // ranks. One would expect one shift; the computer then forgets its best target. Meant.
-      rank[1] = rank[0];
-      rank[0] = n;
+  for (int n = 0; n < static_cast<int>(played.size()); ++n) {
+    if (played[static_cast<std::size_t>(n)] != 5) continue;
+    for (const int slot : handOf(Side::Computer)) {
+      if (!s.card(slot).held || !s.card(slot).bears(n)) continue;
+      s.bannedNumber = n;
+      // QUIRK-22: repeated for every such card, so that two of them put the number on both ranks.
+      // One would expect one shift; the computer then forgets its best target. Meant.
+      targets = {n, targets[0]};
     }
   }
 }

@@ -7,7 +7,7 @@ int main(int /*argc*/, char** argv) {
   using namespace mevracard;
   const DesktopSetup setup{argv,
                            MEVRACARD_DATA_DIR,
-                           {{std::string(settingsFile), std::string(defaultSettingsLine) + "\r\n"},
+                           {{std::string(settingsFile), defaultSettingsText()},
                             {std::string(statisticsFile), emptyRecordText()}}};
   return runOnDesktop(setup, [](Desktop& desktop, const std::function<void()>& loop) {
     Program program(desktop);

@@ -2,89 +2,83 @@
 
 #include <array>
 
-#include "ai/passing.h"
-#include "flow/game_menu.h"
-#include "flow/level_menu.h"
-#include "flow/new_game.h"
-#include "flow/player_input.h"
-#include "flow/same_number_choice.h"
-#include "flow/turn_driver.h"
-#include "guide/tips.h"
-#include "guide/tutorial.h"
-#include "ui/about_commands.h"
-#include "ui/choice.h"
-#include "ui/screen_panel.h"
-#include "ui/screen_scale.h"
-#include "ui/statistics_commands.h"
+#include "play/about.h"
+#include "play/game_menu.h"
+#include "play/level_menu.h"
+#include "play/new_game.h"
+#include "play/passing.h"
+#include "play/player_input.h"
+#include "play/same_number_choice.h"
+#include "play/screen_scale.h"
+#include "play/size_panel.h"
+#include "play/statistics.h"
+#include "play/tips.h"
+#include "play/turn_driver.h"
+#include "play/tutorial.h"
 
 namespace mevracard {
 
 namespace {
 
-void card_DblClick(MainWindow& w, const Event& e) { k_DblClick(w, e.control->index); }
+using Handler = void (*)(MainWindow&, const Event&);
 
-void scrctrl_Scroll(MainWindow& w, const Event& e) {
-  w.scrctrl.value = e.value;
-  scrctrl_Change(w);
+/// A step that needs nothing of the event.
+template <void (*run)(MainWindow&)>
+void step(MainWindow& w, const Event& /*event*/) {
+  run(w);
 }
 
-void authormevra_Close(MainWindow& w) {
-  // After a pass only OK gives the main window back, so closing the box counts as OK.
-  if (w.authormevra.ctrcom.visible) {
-    ctrcom_Click(w);
-  } else {
-    w.desktop.hide(w.authormevra.form);
-  }
-}
+void onCard(MainWindow& w, const Event& event) { doubleClickCard(w, event.control->index); }
+
+void onScroll(MainWindow& w, const Event& event) { scrollScreenSize(w, event.value); }
 
 /// Enter or Space on the key button of the choice: nothing while it is open, else Discard.
-void hilang_Click(MainWindow& w) {
-  if (!choiceIsOpen(w)) mulai_Click(w);
+void pressChoiceKeys(MainWindow& w) {
+  if (!w.state.choiceOpen) pressDiscard(w);
 }
 
-/// One row: an event on the thing of this name, and its handler, with the event if it needs it.
+/// One row: an event on the thing of this name, and what answers it.
 struct Row {
   EventKind kind;
   std::string_view name;
-  void (*handler)(MainWindow&) = nullptr;
-  void (*eventHandler)(MainWindow&, const Event&) = nullptr;
+  Handler handler;
 };
 
 constexpr std::array eventTable{
-    Row{EventKind::Tick, "mevraku", jam_Timer},
-    Row{EventKind::DoubleClick, "k", nullptr, card_DblClick},
-    Row{EventKind::DoubleClick, "a", nullptr, card_DblClick},
-    Row{EventKind::DoubleClick, "b", nullptr, card_DblClick},
-    Row{EventKind::Click, "mulai", mulai_Click},
-    Row{EventKind::Click, "hilang", hilang_Click},
-    Row{EventKind::Click, "kiri", kiri_Click},
-    Row{EventKind::Click, "kanan", kanan_Click},
-    Row{EventKind::Click, "canc", canc_Click},
-    Row{EventKind::Click, "ctrcom", ctrcom_Click},
-    Row{EventKind::Click, "Label1", Label1_Click},
-    Row{EventKind::Click, "tutuprec", tutuprec_Click},
-    Row{EventKind::Click, "hapusrec", hapusrec_Click},
-    Row{EventKind::Click, "cmdscreen", cmdscreen_Click},
-    Row{EventKind::Scroll, "scrctrl", nullptr, scrctrl_Scroll},
-    Row{EventKind::MouseDown, "cmdHow", cmdHow_MouseDown},
-    Row{EventKind::Click, "cmdHow", cmdHow_Click},
-    Row{EventKind::Click, "cmdCL", cmdCL_Click},
-    Row{EventKind::Menu, "pl1", pl1_Click},
-    Row{EventKind::Menu, "pl2", pl2_Click},
-    Row{EventKind::Menu, "cl1", cl1_Click},
-    Row{EventKind::Menu, "cl2", cl2_Click},
-    Row{EventKind::Menu, "rg", rg_Click},
-    Row{EventKind::Menu, "stat", stat_Click},
-    Row{EventKind::Menu, "exit", exit_Click},
-    Row{EventKind::Menu, "author", author_Click},
-    Row{EventKind::Menu, "tips", tips_Click},
-    Row{EventKind::Menu, "go", go_Click},
-    Row{EventKind::Menu, "rufoxx", rufoxx_Click},
-    Row{EventKind::Menu, "scr", scr_Click},
-    Row{EventKind::Menu, "how", how_Click},
-    Row{EventKind::Close, "mevraku", exit_Click},
-    Row{EventKind::Close, "authormevra", authormevra_Close},
-    Row{EventKind::Close, "kalahmenang", closeStatistics},
+    Row{EventKind::Tick, "mevraku", step<tick>},
+    Row{EventKind::DoubleClick, "k", onCard},
+    Row{EventKind::DoubleClick, "a", onCard},
+    Row{EventKind::DoubleClick, "b", onCard},
+    Row{EventKind::Click, "mulai", step<pressDiscard>},
+    Row{EventKind::Click, "hilang", step<pressChoiceKeys>},
+    Row{EventKind::Click, "kiri", step<chooseLeftBottom>},
+    Row{EventKind::Click, "kanan", step<chooseRightTop>},
+    Row{EventKind::Click, "canc", step<cancelChoice>},
+    Row{EventKind::Click, "ctrcom", step<acknowledgePass>},
+    Row{EventKind::Click, "Label1", step<openHomepage>},
+    Row{EventKind::Click, "tutuprec", step<closeStatistics>},
+    Row{EventKind::Click, "hapusrec", step<clearStatistics>},
+    Row{EventKind::Click, "cmdscreen", step<closeSizePanel>},
+    Row{EventKind::Scroll, "scrctrl", onScroll},
+    Row{EventKind::MouseDown, "cmdHow", step<mouseDownOnNext>},
+    Row{EventKind::Click, "cmdHow", step<pressNext>},
+    Row{EventKind::Click, "cmdCL", step<stopTutorial>},
+    Row{EventKind::Menu, "pl1", step<choosePlayerLevel1>},
+    Row{EventKind::Menu, "pl2", step<choosePlayerLevel2>},
+    Row{EventKind::Menu, "cl1", step<chooseComputerLevel1>},
+    Row{EventKind::Menu, "cl2", step<chooseComputerLevel2>},
+    Row{EventKind::Menu, "rg", step<chooseNewGame>},
+    Row{EventKind::Menu, "stat", step<openStatistics>},
+    Row{EventKind::Menu, "exit", step<chooseExit>},
+    Row{EventKind::Menu, "author", step<showAbout>},
+    Row{EventKind::Menu, "tips", step<showTips>},
+    Row{EventKind::Menu, "go", step<openHomepage>},
+    Row{EventKind::Menu, "rufoxx", step<openSizePanel>},
+    Row{EventKind::Menu, "scr", step<openSizePanel>},
+    Row{EventKind::Menu, "how", step<startTutorial>},
+    Row{EventKind::Close, "mevraku", step<chooseExit>},
+    Row{EventKind::Close, "authormevra", step<closeAbout>},
+    Row{EventKind::Close, "kalahmenang", step<closeStatistics>},
 };
 
 std::string_view nameOf(const Event& event) {
@@ -92,16 +86,22 @@ std::string_view nameOf(const Event& event) {
   return event.entry != nullptr ? event.entry->name : event.form->name;
 }
 
+/// A label answers a click only if it is the link; others share its name.
+bool isPlainLabel(const Control* control) {
+  return control != nullptr && control->kind == ControlKind::Label &&
+         !static_cast<const Label*>(control)->link;
+}
+
 /// Keys of the main window: the choice takes its own, Esc cancels it wherever the focus is, and
 /// the keys of the player's turn that the focused control has no use for go to the Discard button.
 void pressKey(MainWindow& w, const Event& event) {
   const int key = event.value;
-  if (choiceIsOpen(w) && (event.control == &w.hilang || key == keyEscape)) {
-    hilang_KeyPress(w, key);
+  if (w.state.choiceOpen && (event.control == &w.choice.keys || key == keyEscape)) {
+    pressKeyOfChoice(w, key);
   } else if (key == keyEnter || key == keySpace) {
-    mulai_Click(w);
-  } else if (w.mulai.usable() && (event.control == &w.mulai || key == 'p' || key == 'P')) {
-    mulai_KeyPress(w, key);
+    pressDiscard(w);
+  } else if (w.discard.usable() && (event.control == &w.discard || key == 'p' || key == 'P')) {
+    pressKeyOnDiscard(w, key);
   }
 }
 
@@ -110,16 +110,11 @@ void dispatch(MainWindow& w, const Event& event) {
     if (event.form == &w.form) pressKey(w, event);
     return;
   }
+  if (event.kind == EventKind::Click && isPlainLabel(event.control)) return;
   const std::string_view name = nameOf(event);
-  // `Label1` is the link in the About window and plain headings in the main one.
-  if (name == "Label1" && event.form == &w.form) return;
   for (const Row& row : eventTable) {
     if (row.kind != event.kind || row.name != name) continue;
-    if (row.handler != nullptr) {
-      row.handler(w);
-    } else {
-      row.eventHandler(w, event);
-    }
+    row.handler(w, event);
     return;
   }
 }
@@ -127,13 +122,13 @@ void dispatch(MainWindow& w, const Event& event) {
 }  // namespace
 
 Program::Program(Desktop& desktop) : window_(desktop) {
-  desktop.attach({&window_.form, &window_.authormevra.form, &window_.kalahmenang.form},
+  desktop.attach({&window_.form, &window_.about.form, &window_.statistics.form},
                  [this](const Event& event) { handle(event); });
 }
 
 void Program::start() {
   try {
-    Form_Load(window_);
+    startGame(window_);
   } catch (const std::exception& error) {
     window_.report(error.what());
   }

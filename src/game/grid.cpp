@@ -7,7 +7,7 @@ double scaleOf(int screenValue, int screenHeight) {
 }
 
 GridPoint handPlace(int slot) {
-  const bool player = slot < handSize;
+  const bool player = ownerOf(slot) == Side::Player;
   const int column = player ? slot : slot - handSize;
   return {3360.0 + 600.0 * column, player ? 9400.0 : 240.0};
 }

@@ -35,7 +35,7 @@ struct Laying {
 };
 [[nodiscard]] Laying layingOf(End end, int n);
 
-/// The turn marker (`hubung` index) that the n-th card of an end moves, and where to.
+/// The turn marker (0 or 1) that the n-th card of an end moves, and where to.
 struct MarkerMove {
   std::size_t marker = 0;
   GridPoint place;

@@ -1,47 +1,40 @@
 #include "game/rules.h"
 
+#include <algorithm>
+
 namespace mevracard {
 
-namespace {
-std::size_t at(int card) { return static_cast<std::size_t>(card); }
-}  // namespace
+bool fitsAt(const GameState& s, int card, End end) { return s.card(card).bears(s.openNumber[end]); }
 
-bool bears(const GameState& s, int card, int number) {
-  return s.a.at(at(card)) == number || s.b.at(at(card)) == number;
+bool fits(const GameState& s, int card) {
+  return fitsAt(s, card, End::RightTop) || fitsAt(s, card, End::LeftBottom);
 }
 
-bool matchesEnd(const GameState& s, int card, End end) {
-  return bears(s, card, s.activeNumber(end));
+std::optional<End> endFor(const GameState& s, int card) {
+  // QUIRK-07: a card that fits the Right/Top end alone is refused while Left/Bottom is asked for.
+  // One would expect it at the end it fits; the player's card stays in the hand. Meant.
+  const bool rightAllowed = !s.playerAimsLeftBottom && !s.computerAimsLeftBottom;
+  if (rightAllowed && fitsAt(s, card, End::RightTop)) return End::RightTop;
+  if (fitsAt(s, card, End::LeftBottom)) return End::LeftBottom;
+  return std::nullopt;
 }
-
-bool matchesAny(const GameState& s, int card) {
-  return matchesEnd(s, card, End::RightTop) || matchesEnd(s, card, End::LeftBottom);
-}
-
-bool isDouble(const GameState& s, int card) { return s.a.at(at(card)) == s.b.at(at(card)); }
 
 bool bearsBothActiveNumbers(const GameState& s, int card) {
-  const int x = s.a.at(at(card));
-  const int y = s.b.at(at(card));
-  const auto [first, second] = s.kotak;
-  return (x == first && y == second) || (x == second && y == first);
+  const auto [upper, lower, held] = s.card(card);
+  const int first = s.openNumber[End::RightTop];
+  const int second = s.openNumber[End::LeftBottom];
+  return (upper == first && lower == second) || (upper == second && lower == first);
 }
 
 bool makesSameNumber(const GameState& s, int card) {
-  return !isDouble(s, card) && bearsBothActiveNumbers(s, card);
+  return !s.card(card).isDouble() && bearsBothActiveNumbers(s, card);
 }
 
-int noPlayableCard(const GameState& s, int lo, int hi) {
-  for (int i = lo; i <= hi; ++i) {
-    if (s.held.at(at(i)) == 1 && matchesAny(s, i)) return 0;
-  }
-  return 1;
+bool noneFits(const GameState& s, std::span<const int> cards) {
+  return std::none_of(cards.begin(), cards.end(),
+                      [&](int card) { return s.card(card).held && fits(s, card); });
 }
 
-bool playerIsStuck(const GameState& s) { return noPlayableCard(s, playerFirst, playerLast) == 1; }
-
-bool computerIsStuck(const GameState& s) {
-  return noPlayableCard(s, computerFirst, computerLast) == 1;
-}
+bool mustPass(const GameState& s, Side side) { return noneFits(s, handOf(side)); }
 
 }  // namespace mevracard

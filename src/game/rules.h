@@ -2,20 +2,17 @@
 
 #include "game/state.h"
 
-/// Which card matches what. Pure questions about a game state.
+/// Which card fits where, and who must pass. Pure questions about a game state; cards are named by
+/// their slots.
 namespace mevracard {
 
-/// Slots of the two hands, first and last.
-constexpr int playerFirst = 0, playerLast = 13;
-constexpr int computerFirst = 14, computerLast = 27;
-
-/// The card bears this number on either half.
-[[nodiscard]] bool bears(const GameState& s, int card, int number);
 /// The card bears the active number of this end.
-[[nodiscard]] bool matchesEnd(const GameState& s, int card, End end);
-/// The card matches at least one end.
-[[nodiscard]] bool matchesAny(const GameState& s, int card);
-[[nodiscard]] bool isDouble(const GameState& s, int card);
+[[nodiscard]] bool fitsAt(const GameState& s, int card, End end);
+/// The card fits at least one end.
+[[nodiscard]] bool fits(const GameState& s, int card);
+/// The end that the card goes to: Right/Top before Left/Bottom, unless a side aims at Left/Bottom.
+/// None if it fits no end that is allowed.
+[[nodiscard]] std::optional<End> endFor(const GameState& s, int card);
 
 /// The card's two numbers are exactly the two active numbers, in either order. A double qualifies
 /// when both ends show its number.
@@ -24,9 +21,9 @@ constexpr int computerFirst = 14, computerLast = 27;
 /// card leaves the same number open at both ends.
 [[nodiscard]] bool makesSameNumber(const GameState& s, int card);
 
-/// 1 when no held card of the slots `lo` to `hi` matches either end, else 0.
-[[nodiscard]] int noPlayableCard(const GameState& s, int lo, int hi);
-[[nodiscard]] bool playerIsStuck(const GameState& s);
-[[nodiscard]] bool computerIsStuck(const GameState& s);
+/// None of these cards that is held fits either end.
+[[nodiscard]] bool noneFits(const GameState& s, std::span<const int> cards);
+/// The side holds no card that fits.
+[[nodiscard]] bool mustPass(const GameState& s, Side side);
 
 }  // namespace mevracard

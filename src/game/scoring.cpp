@@ -2,12 +2,12 @@
 
 namespace mevracard {
 
-Leftover leftover(const GameState& s, int lo, int hi) {
+Leftover leftover(const GameState& s, Side side) {
   Leftover left;
-  for (int i = lo; i <= hi; ++i) {
-    const auto card = static_cast<std::size_t>(i);
-    if (s.held[card] != 1) continue;
-    left.sum += s.a[card] + s.b[card];
+  for (const int slot : handOf(side)) {
+    const Card& card = s.card(slot);
+    if (!card.held) continue;
+    left.sum += card.sum();
     ++left.cards;
   }
   return left;

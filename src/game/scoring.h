@@ -10,8 +10,8 @@ struct Leftover {
   int cards = 0;
 };
 
-/// The held cards of the slots `lo` to `hi`.
-[[nodiscard]] Leftover leftover(const GameState& s, int lo, int hi);
+/// The cards that a side still holds.
+[[nodiscard]] Leftover leftover(const GameState& s, Side side);
 
 /// Who wins a deadlock: the smaller sum, then the fewer cards; a full tie is the player's loss.
 [[nodiscard]] bool playerWinsDeadlock(const Leftover& player, const Leftover& computer);

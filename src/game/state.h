@@ -1,70 +1,162 @@
 #pragma once
 
 #include <array>
+#include <numeric>
 #include <optional>
+#include <span>
 #include <string>
 
+/// What a game consists of, as plain data.
 namespace mevracard {
 
 constexpr int cardCount = 28;
-constexpr int handSize = 14;         ///< slots 0 to 13 are the player's, 14 to 27 the computer's
-constexpr int noSelection = 15;      ///< `selectedCard`: none; never a slot of the player's
-constexpr int noTacticalNumber = 7;  ///< `larangan`, `bahaya`, `bahaya2`: none
+constexpr int handSize = 14;     ///< slots 0 to 13 are the player's, 14 to 27 the computer's
+constexpr int noSelection = 15;  ///< `selectedCard`: none; never a slot of the player's
+constexpr int noNumber = 7;      ///< `bannedNumber`, `danger`, `secondDanger`: none
 constexpr int designScreenValue = 100;
 
-/// The two ends of the chain. End 0 grows up and right, end 1 down and left.
-enum class End { RightTop = 0, LeftBottom = 1 };
+/// The two ends of the chain. Right/Top grows up and right, Left/Bottom down and left.
+enum class End { RightTop, LeftBottom };
+enum class Side { Computer, Player };
 
-/// The one record of a game. Numbers of cards are 0 to 6, flags 1 and 0. An empty optional is a
-/// field that holds no number yet and reads as 0.
+/// One value for each end, or for each side.
+template <typename Key, typename Value>
+struct PerKey {
+  std::array<Value, 2> values{};
+
+  [[nodiscard]] Value& operator[](Key key) { return values[static_cast<std::size_t>(key)]; }
+  [[nodiscard]] const Value& operator[](Key key) const {
+    return values[static_cast<std::size_t>(key)];
+  }
+  bool operator==(const PerKey&) const = default;
+};
+template <typename Value>
+using PerEnd = PerKey<End, Value>;
+template <typename Value>
+using PerSide = PerKey<Side, Value>;
+
+/// The slots of the cards in rising order.
+inline constexpr auto allSlots = [] {
+  std::array<int, cardCount> all{};
+  std::iota(all.begin(), all.end(), 0);
+  return all;
+}();
+
+/// The slots that a side's cards keep for the whole game.
+[[nodiscard]] constexpr std::span<const int, handSize> handOf(Side side) {
+  constexpr std::span all(allSlots);
+  return side == Side::Player ? all.first<handSize>() : all.last<handSize>();
+}
+[[nodiscard]] constexpr Side ownerOf(int slot) {
+  return slot < handSize ? Side::Player : Side::Computer;
+}
+
+/// A card with its numbers, 0 to 6, as it lies: a card is turned when it is laid.
+struct Card {
+  int upper = 0, lower = 0;
+  bool held = false;  ///< in its owner's hand, else on the table
+
+  [[nodiscard]] bool bears(int number) const { return upper == number || lower == number; }
+  [[nodiscard]] bool isDouble() const { return upper == lower; }
+  [[nodiscard]] int sum() const { return upper + lower; }
+};
+
+/// What the status line last said.
+enum class Announcement {
+  None,
+  YourTurn,
+  ComputersTurn,
+  ChooseOne,
+  ComputerPasses,
+  YouPass,
+  ComputersTurnAgain,
+};
+
+/// For the player.
+enum class GameResult { None, Won, Lost };
+
+/// The two levels as the settings file holds them, 1 or 2; empty until a file was read.
+struct SavedLevels {
+  std::optional<int> player, computer;
+};
+
+/// The how-to-play tutorial.
+struct TutorialState {
+  bool running = false;
+  bool untilFirstCard = false;        ///< from its start to its first demonstrated card
+  bool computerWaitsForNext = false;  ///< the timer lets no move of the computer's through
+  bool nextIsComputers = false;       ///< NEXT lets the computer move, else it demonstrates a move
+};
+
+/// A way in pixels of 15 twips.
+struct PixelVector {
+  double x = 0, y = 0;
+};
+
+/// The demonstrated move: the pointer goes from `start` to `start + offset`, then the card is laid.
+struct Demonstration {
+  bool busy = false;  ///< a move is being shown
+  bool done = false;  ///< since the opening none was begun
+  int tick = 0;       ///< ticks of the pointer's way
+  PixelVector start, offset;
+};
+
+/// The one record of a game. An empty optional holds no slot yet.
 struct GameState {
-  std::array<int, cardCount> a{}, b{};  ///< upper and lower number of each card
-  std::array<int, cardCount> held{};    ///< 1 in its owner's hand, 0 on the table
+  // The cards and the chain.
+  std::array<Card, cardCount> cards;
+  PerEnd<int> openNumber;              ///< the active numbers
+  PerEnd<std::optional<int>> endCard;  ///< slot of the card that lies at an end
+  PerEnd<int> laidAt;                  ///< cards laid at an end, the 0-0 not counted
+  int openings = 0;                    ///< laid in this game
 
-  std::array<int, 2> kotak{};  ///< the active numbers: open number of each end
-  std::optional<int> k0, k1;   ///< the card (slot) that lies at each end
-  int lina = 0, linb = 0;      ///< cards laid at each end, the 0-0 not counted
+  // The counts, and how the game ended.
+  PerSide<int> cardsLeft{{handSize, handSize}};
+  PerSide<int> passes;
+  bool gameOver = false;
+  GameResult result = GameResult::None;  ///< of the last game that ended
+  bool deadlock = false;                 ///< neither side could move, and that decided it
 
-  int kjumlah = 0;  ///< openings laid this game
-  std::array<int, 4> sisa{14, 14, 0,
-                          0};  ///< cards left: computer, player; passes: computer, player
-
-  int moveMade = 0;     ///< the card last offered was laid; after the opening: computer to move
-  int playCard = 0;     ///< slot of the card to lay
-  int layPosition = 0;  ///< grid place of the card just laid; a deal keeps it
+  // The move at hand.
+  int playCard = 0;          ///< slot of the card to lay, or under examination
+  bool cardWasLaid = false;  ///< the card last offered; after the opening: the computer is to move
+  int layPosition = 0;       ///< grid place of the card just laid; a deal keeps it
   int layColumn = 0;
-  int leftEndChosen = 0;  ///< the player chose the Left/Bottom end
-  int ngisor = 0;         ///< the computer's card is to go to the Left/Bottom end
-  int selectedCard = 0;   ///< the player's selection, noSelection for none
+  bool playerAimsLeftBottom = false;    ///< the player's card is to go to that end
+  bool computerAimsLeftBottom = false;  ///< the computer's card is to go to that end
+  int selectedCard = 0;                 ///< the player's selection, noSelection for none
 
+  // What the player is asked and told.
+  bool choiceOpen = false;     ///< the same-number choice waits for an answer
+  bool passAwaitsOk = false;   ///< the player's pass was announced and waits for its OK
+  bool sizePanelOpen = false;  ///< the screen-size panel is on the table
+  Announcement announcement = Announcement::None;
   std::string tipText = "0";  ///< the current situation tip, lines end with a carriage return
-  double dealSeed = 0;
-  int theend = 0;                    ///< game over
-  std::optional<int> firstDealDone;  ///< 1 once a new game was asked for; decides how a deal scales
 
-  int screenHeight = 0;  ///< twips
+  // What the tactical computer has in mind; noNumber for none.
+  bool computerPassed = false;  ///< in this game
+  int bannedNumber = noNumber;  ///< nearly used up: five non-doubles on the table, one held
+  int danger = noNumber;        ///< of a double with which the player could answer
+  int secondDanger = noNumber;  ///< of another one
+
+  TutorialState tutorial;
+  Demonstration demo;
+
+  // The deal and the table.
+  int playerLevel = 1;    ///< 1: the computer's cards face up; 2: face down
+  int computerLevel = 1;  ///< 1: plain; 2: tactical
+  SavedLevels savedLevels;
+  double dealSeed = 0;
+  bool newGameAsked = false;  ///< since the start; the first deal sizes the table
+  int screenHeight = 0;       ///< twips
   int twipsPerPixel = 15;
   int screenValue = designScreenValue;  ///< screen size in force, 70 to 99 but for the design value
 
-  int computerPassed = 0;  ///< 1 once the computer has passed
-  int larangan = noTacticalNumber;
-  int bahaya = noTacticalNumber;
-  int bahaya2 = noTacticalNumber;
-
-  int tutorialActive = 0;  ///< the computer waits for NEXT
-  int demoMove = 0;        ///< 0: NEXT demonstrates a move; 1: NEXT lets the computer move
-  int demoTick = 0;        ///< ticks of the demonstration under way
-  int demoDone = 0;
-  int demoBusy = 0;       ///< a demonstrated move is under way
-  int tutorialDeal = 0;   ///< from the tutorial's start to its first demonstrated card
-  double n1 = 0, n2 = 0;  ///< the demonstration's way: offset to the target, 15-twip pixels
-  double n3 = 0, n4 = 0;  ///< and its start
-
-  /// Open number, count and end card of an end by its index.
-  [[nodiscard]] int activeNumber(End e) const { return kotak[static_cast<std::size_t>(e)]; }
-  [[nodiscard]] int& activeNumber(End e) { return kotak[static_cast<std::size_t>(e)]; }
-  [[nodiscard]] int& laidAt(End e) { return e == End::RightTop ? lina : linb; }
-  [[nodiscard]] std::optional<int>& endCard(End e) { return e == End::RightTop ? k0 : k1; }
+  /// The card of a slot, 0 to 27; anything else is a std::out_of_range.
+  [[nodiscard]] Card& card(int slot) { return cards.at(static_cast<std::size_t>(slot)); }
+  [[nodiscard]] const Card& card(int slot) const {
+    return cards.at(static_cast<std::size_t>(slot));
+  }
 };
 
 }  // namespace mevracard

@@ -19,8 +19,6 @@ std::vector<Control*>& siblings(Form& form, Control& control) {
 
 }  // namespace
 
-bool MenuEntry::usable() const { return enabled && (parent == nullptr || parent->usable()); }
-
 void Timer::arm(int milliseconds) {
   interval = milliseconds;
   enabled = true;

@@ -17,9 +17,6 @@ struct MenuEntry {
   bool checked = false;
   std::vector<MenuEntry*> entries = {};
   MenuEntry* parent = nullptr;
-
-  /// Enabled, and so is every menu that it stands in.
-  [[nodiscard]] bool usable() const;
 };
 
 /// Periodic timer of a window, in milliseconds. `armings` grows with every arming, so that a

@@ -8,11 +8,7 @@ namespace {
 
 constexpr int smallestScreen = 70, largestScreen = 99;
 
-std::string trimmed(const std::string& text) {
-  const auto begin = text.find_first_not_of(' ');
-  if (begin == std::string::npos) return "";
-  return text.substr(begin, text.find_last_not_of(' ') - begin + 1);
-}
+std::string fieldText(std::optional<int> level) { return level ? std::to_string(*level) : ""; }
 
 /// QUIRK-25: anything but "1" is level 2, a missing character included. One would expect bad fields
 /// to be refused; the player finds level 2 chosen. Meant.
@@ -22,10 +18,12 @@ int levelAt(std::string_view text, std::size_t index) {
 
 }  // namespace
 
-std::string settingsText(const LevelFields& levels, int screenValue) {
-  return trimmed(levels.player) + "/" + trimmed(levels.computer) + "/" +
+std::string settingsText(const SavedLevels& levels, int screenValue) {
+  return fieldText(levels.player) + "/" + fieldText(levels.computer) + "/" +
          std::to_string(screenValue) + "\r\n";
 }
+
+std::string defaultSettingsText() { return settingsText({1, 1}, 99); }
 
 std::optional<SavedSettings> parseSettings(std::string_view text) {
   // QUIRK-26: two digits are read, whatever follows. One would expect three to be refused; 855

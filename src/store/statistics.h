@@ -9,8 +9,8 @@ namespace mevracard {
 
 inline constexpr std::string_view statisticsFile = "sys32rtn.dat";
 
-/// What happens to the record: the values are the game's result codes.
-enum class RecordMode { Clear = 0, Won = 1, Lost = 2 };
+/// What happens to the record.
+enum class RecordMode { Clear, Won, Lost };
 
 struct RecordUpdate {
   std::string text;           ///< the file's new text

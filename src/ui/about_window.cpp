@@ -7,7 +7,7 @@ namespace mevracard {
 namespace {
 
 constexpr const char* serif = "Times New Roman";
-const LabelLook heading{paleGreen, black, {serif, 11.25F, true, true}};
+const LabelLook headingText{paleGreen, black, {serif, 11.25F, true, true}};
 const LabelLook linkText{paleGreen, blue, {"MS Sans Serif", 9.75F}};
 const LabelLook bodyText{paleGreen, blue, {}};
 // The emblem's texts reach over the card outlines, which must stay whole.
@@ -40,25 +40,25 @@ AboutWindow::AboutWindow() {
   form.width = 6255;
   form.height = 3540;
 
-  design(mainh, {120, 120, 6255, 615}, creditsLine, heading);
-  design(Label1, {120, 720, 5895, 375}, "Click:  " + std::string(homepageAddress), linkText);
-  Label1.link = true;
+  design(heading, {120, 120, 6255, 615}, creditsLine, headingText);
+  design(link, {120, 720, 5895, 375}, "Click:  " + std::string(homepageAddress), linkText);
+  link.link = true;
   designEmblem(*this);
-  design(additional, {120, 1200, 6015, 2175}, "", bodyText);
-  design(ctrcom, {2760, 2520, 972, 492}, "OK");
+  design(tip, {120, 1200, 6015, 2175}, "", bodyText);
+  design(ok, {2760, 2520, 972, 492}, "OK");
 
-  form.add(mainh, "mainh");
-  form.add(Label1, "Label1");
+  form.add(heading, "mainh");
+  form.add(link, "Label1");
   addAll(form, triangle, "triangle");
   addAll(form, cards, "cards");
   form.bringToFront(triangle[4]);  // the base line is the divider of both cards
   addAll(form, numbers, "numbers");
   form.add(apex, "apex");
-  form.add(additional, "additional");
-  form.add(ctrcom, "ctrcom");
-  additional.visible = false;
-  ctrcom.visible = false;
-  form.defaultFocus = &ctrcom;
+  form.add(tip, "additional");
+  form.add(ok, "ctrcom");
+  tip.visible = false;
+  ok.visible = false;
+  form.defaultFocus = &ok;
 }
 
 }  // namespace mevracard

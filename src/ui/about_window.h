@@ -18,12 +18,13 @@ struct AboutWindow {
   AboutWindow& operator=(const AboutWindow&) = delete;
 
   Form form;
-  Label mainh;       ///< heading
-  Label Label1;      ///< the homepage link
-  Label additional;  ///< body text of the tips
-  Button ctrcom;     ///< OK, shown only after a pass of the player
+  Label heading;
+  Label link;  ///< to the homepage
+  Label tip;
+  Button ok;  ///< shown only after a pass of the player
 
-  std::array<Line, 5> triangle;  ///< the emblem: four lines and the base line under them
+  // The emblem: four lines and the base line under them, two cards, a round apex.
+  std::array<Line, 5> triangle;
   std::array<Shape, 2> cards;
   std::array<Label, 4> numbers;
   Shape apex;

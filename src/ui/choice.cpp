@@ -1,16 +1,26 @@
 #include "ui/choice.h"
 
+#include "ui/status.h"
+
 namespace mevracard {
 
+void openChoice(MainWindow& w, int card) {
+  GameState& s = w.state;
+  s.choiceOpen = true;
+  s.playCard = card;
+  announce(w, Announcement::ChooseOne);
+  w.status.visible = true;
+  w.choice.leftBottom.caption = "Mevra " + std::to_string(s.openNumber[End::RightTop]);
+  w.choice.rightTop.caption = "Mevra " + std::to_string(s.openNumber[End::LeftBottom]);
+  w.choice.show(true);
+  w.form.giveFocus(w.choice.keys);
+}
+
 void closeChoice(MainWindow& w) {
-  if (!choiceIsOpen(w)) return;
-  w.kiri.visible = false;
-  w.kanan.visible = false;
-  w.panah1.visible = false;
-  w.panah2.visible = false;
-  w.panah3.visible = false;
-  w.form.giveFocus(w.mulai);
-  w.canc.visible = false;
+  if (!w.state.choiceOpen) return;
+  w.state.choiceOpen = false;
+  w.choice.show(false);
+  w.form.giveFocus(w.discard);
 }
 
 }  // namespace mevracard

@@ -4,8 +4,8 @@
 
 namespace mevracard {
 
-/// The parts of the same-number choice. Open means that its buttons wait for the player.
-[[nodiscard]] inline bool choiceIsOpen(const MainWindow& w) { return w.canc.visible; }
+/// Asks the player which number shall stay open. The card must make the same number.
+void openChoice(MainWindow& w, int card);
 
 /// Hides the buttons and arrows of the choice and gives the focus back to the Discard button.
 /// Harmless while it is closed.

@@ -4,6 +4,12 @@
 
 namespace mevracard {
 
+namespace {
+
+void showNumber(Label& label, int number) { label.caption = std::to_string(number); }
+
+}  // namespace
+
 MainWindow::MainWindow(Desktop& d) : desktop(d) {
   designControls();
   designMenu();
@@ -13,13 +19,21 @@ double MainWindow::scaleFactor() const { return scaleOf(state.screenValue, state
 
 void MainWindow::refresh() {
   for (std::size_t i = 0; i < cardCount; ++i) {
-    a[i].caption = std::to_string(state.a[i]);
-    b[i].caption = std::to_string(state.b[i]);
+    showNumber(cards[i].upper, state.cards[i].upper);
+    showNumber(cards[i].lower, state.cards[i].lower);
   }
-  for (std::size_t i = 0; i < sisa.size(); ++i) sisa[i].caption = std::to_string(state.sisa[i]);
+  showNumber(table.counters[0], state.cardsLeft[Side::Computer]);
+  showNumber(table.counters[1], state.cardsLeft[Side::Player]);
+  showNumber(table.counters[2], state.passes[Side::Computer]);
+  showNumber(table.counters[3], state.passes[Side::Player]);
+  result.deadlock.visible = state.deadlock;
+  menu.playerLevel1.checked = state.playerLevel == 1;
+  menu.playerLevel2.checked = state.playerLevel == 2;
+  menu.computerLevel1.checked = state.computerLevel == 1;
+  menu.computerLevel2.checked = state.computerLevel == 2;
   form.settleFocus();
-  authormevra.form.settleFocus();
-  kalahmenang.form.settleFocus();
+  about.form.settleFocus();
+  statistics.form.settleFocus();
 }
 
 void MainWindow::present() {
@@ -35,13 +49,6 @@ void MainWindow::say(std::string_view text) {
 void MainWindow::report(std::string_view text) {
   present();
   desktop.reportError(text);
-}
-
-void MainWindow::showStatus(std::string_view text) { tanda.caption = text; }
-
-void MainWindow::showTurn(std::string_view text) {
-  tanda.caption = text;
-  if (lblHow.visible) tanda.caption += ". Click Next";
 }
 
 }  // namespace mevracard

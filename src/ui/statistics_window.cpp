@@ -20,25 +20,25 @@ StatisticsWindow::StatisticsWindow() {
   form.height = 2580;
 
   // clang-format off
-  design(Label2,   { 840,  600,  855, 495}, "Won:",  text);
-  design(wins,     {1200,  600,  735, 375}, "0",     figure);
-  design(pwins,    {2640,  600,  375, 375}, "0%",    figure);
-  design(Label3,   { 840,  960,  975, 495}, "Lost:", text);
-  design(loses,    {1200,  960,  735, 495}, "0",     figure);
-  design(ploses,   {2640,  960,  375, 375}, "0%",    figure);
-  design(tutuprec, { 720, 1560, 1095, 495}, "OK");
-  design(hapusrec, {2040, 1560, 1095, 495}, "Clear");
+  design(wonCaption,  { 840,  600,  855, 495}, "Won:",  text);
+  design(won,         {1200,  600,  735, 375}, "0",     figure);
+  design(wonPercent,  {2640,  600,  375, 375}, "0%",    figure);
+  design(lostCaption, { 840,  960,  975, 495}, "Lost:", text);
+  design(lost,        {1200,  960,  735, 495}, "0",     figure);
+  design(lostPercent, {2640,  960,  375, 375}, "0%",    figure);
+  design(ok,          { 720, 1560, 1095, 495}, "OK");
+  design(clear,       {2040, 1560, 1095, 495}, "Clear");
   // clang-format on
 
-  form.add(Label2, "Label2", 0);
-  form.add(Label3, "Label3", 0);
-  form.add(wins, "wins");
-  form.add(pwins, "pwins");
-  form.add(loses, "loses");
-  form.add(ploses, "ploses");
-  form.add(tutuprec, "tutuprec");
-  form.add(hapusrec, "hapusrec");
-  form.defaultFocus = &tutuprec;
+  form.add(wonCaption, "Label2", 0);
+  form.add(lostCaption, "Label3", 0);
+  form.add(won, "wins");
+  form.add(lost, "loses");
+  form.add(wonPercent, "pwins");
+  form.add(lostPercent, "ploses");
+  form.add(ok, "tutuprec");
+  form.add(clear, "hapusrec");
+  form.defaultFocus = &ok;
 }
 
 }  // namespace mevracard

@@ -11,10 +11,10 @@ struct StatisticsWindow {
   StatisticsWindow& operator=(const StatisticsWindow&) = delete;
 
   Form form;
-  Label Label2, Label3;  ///< captions of the two rows
-  Label wins, pwins, loses, ploses;
-  Button tutuprec;  ///< OK
-  Button hapusrec;  ///< Clear
+  Label wonCaption, lostCaption;
+  Label won, lost;
+  Label wonPercent, lostPercent;
+  Button ok, clear;
 };
 
 }  // namespace mevracard

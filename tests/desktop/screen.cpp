@@ -5,7 +5,7 @@
 #include <QFile>
 #include <QMessageBox>
 #include <QScreen>
-#include <numeric>
+#include <algorithm>
 
 #include <QtTest/QTest>
 
@@ -110,18 +110,23 @@ QPoint Screen::pointer() {
   return at;
 }
 
+int cardsLaid(const GameState& s) { return s.laidAt[End::RightTop] + s.laidAt[End::LeftBottom]; }
+
 std::string brokenInvariant(const GameState& s) {
-  const auto count = [&s](int from) {
-    return std::accumulate(s.held.begin() + from, s.held.begin() + from + handSize, 0);
+  const auto held = [&s](Side side) {
+    const auto hand = handOf(side);
+    return std::count_if(hand.begin(), hand.end(), [&](int slot) { return s.card(slot).held; });
   };
-  if (count(0) != s.sisa[1]) return "the player's count is not the hand";
-  if (count(handSize) > s.sisa[0]) return "the computer's count is below the hand";
-  if (s.lina + s.linb + 1 != cardCount - count(0) - count(handSize)) {
+  const auto players = held(Side::Player);
+  const auto computers = held(Side::Computer);
+  if (players != s.cardsLeft[Side::Player]) return "the player's count is not the hand";
+  if (computers > s.cardsLeft[Side::Computer]) return "the computer's count is below the hand";
+  if (cardsLaid(s) + 1 != cardCount - players - computers) {
     return "the ends' counts are not the table";
   }
-  for (const auto& [card, number] : {std::pair{s.k0, s.kotak[0]}, std::pair{s.k1, s.kotak[1]}}) {
-    const auto i = static_cast<std::size_t>(card.value_or(0));
-    if (s.a[i] != number && s.b[i] != number) return "an end's number is not on its card";
+  for (const End end : {End::RightTop, End::LeftBottom}) {
+    const Card& card = s.card(s.endCard[end].value_or(0));
+    if (!card.bears(s.openNumber[end])) return "an end's number is not on its card";
   }
   return "";
 }

@@ -31,21 +31,20 @@ TEST(Demonstration, EndsOnTheMarkedNumber) {
     startTutorial(screen);
     MainWindow& w = screen.window();
     GameState& s = w.state;
-    w.jam.disarm();
+    w.timer.disarm();
     // Only the card in this column fits: its lower number, at the Right/Top end.
-    for (std::size_t i = 0; i < 14; ++i) s.a[i] = s.b[i] = 6;
-    const auto card = static_cast<std::size_t>(c.column);
-    s.b[card] = 0;
-    s.held[card] = 1;
-    s.kotak = {0, 0};
-    screen.click(w.cmdHow);
-    ASSERT_TRUE(screen.waitFor([&] { return s.demoBusy == 1; }));
+    for (const int slot : handOf(Side::Player)) s.card(slot) = {6, 6, s.card(slot).held};
+    s.card(c.column) = {6, 0, true};
+    s.openNumber = {};
+    screen.click(w.tutorial.next);
+    ASSERT_TRUE(screen.waitFor([&] { return s.demo.busy; }));
     screen.settle(50);
-    const QWidget& label = screen.widget(w.b[card]);
+    const Label& marked = w.card(c.column).lower;
+    const QWidget& label = screen.widget(marked);
     const QRect target(label.mapToGlobal(QPoint(0, 0)), label.size());
-    EXPECT_EQ(w.b[card].backColor, (Color{255, 0, 0}));
+    EXPECT_EQ(marked.backColor, (Color{255, 0, 0}));
     if (c.column == 6) screen.shoot("demonstration");
-    ASSERT_TRUE(screen.waitFor([&] { return s.demoBusy == 0; }, 15000));
+    ASSERT_TRUE(screen.waitFor([&] { return !s.demo.busy; }, 15000));
     const QPoint pointer = Screen::pointer();
     EXPECT_TRUE(target.contains(pointer)) << pointer.x() << ", " << pointer.y();
   }
@@ -57,9 +56,9 @@ TEST(Demonstration, PlaysAWholeGame) {
   startTutorial(screen);
   MainWindow& w = screen.window();
   GameState& s = w.state;
-  const auto waits = [&] { return s.theend == 1 || !w.form.enabled || s.demoBusy == 0; };
-  for (int presses = 0; presses < 120 && s.theend == 0; ++presses) {
-    if (w.authormevra.ctrcom.visible) {
+  const auto waits = [&] { return s.gameOver || !w.form.enabled || !s.demo.busy; };
+  for (int presses = 0; presses < 120 && !s.gameOver; ++presses) {
+    if (s.passAwaitsOk) {
       screen.key("Return");
       ASSERT_TRUE(screen.waitFor([&] { return w.form.enabled; }));
       continue;
@@ -69,9 +68,10 @@ TEST(Demonstration, PlaysAWholeGame) {
     ASSERT_TRUE(screen.waitFor(waits, 20000));
     if (presses == 8) screen.shoot("tutorial-middle");
   }
-  EXPECT_EQ(s.theend, 1);
-  EXPECT_FALSE(w.cmdHow.visible || w.cmdCL.visible || w.lblHow.visible || w.gttip.visible);
-  EXPECT_TRUE(w.akhir[5].visible);
+  EXPECT_TRUE(s.gameOver);
+  Tutorial& t = w.tutorial;
+  EXPECT_FALSE(t.next.visible || t.stop.visible || t.guide.visible || t.hint.visible);
+  EXPECT_TRUE(w.result.verdict.visible);
   screen.shoot("tutorial-end");
 }
 
@@ -80,16 +80,18 @@ TEST(Demonstration, StopsInMidGlide) {
   Screen screen(3);
   startTutorial(screen);
   MainWindow& w = screen.window();
-  ASSERT_TRUE(screen.waitFor([&] { return w.state.tutorialActive == 1 || !w.jam.enabled; }));
-  screen.click(w.cmdHow);
-  ASSERT_TRUE(screen.waitFor([&] { return w.state.demoBusy == 1; }));
+  ASSERT_TRUE(
+      screen.waitFor([&] { return w.state.tutorial.computerWaitsForNext || !w.timer.enabled; }));
+  screen.click(w.tutorial.next);
+  ASSERT_TRUE(screen.waitFor([&] { return w.state.demo.busy; }));
   screen.settle(150);
   screen.key("Tab");
   screen.settle(50);
   screen.key("space");
-  ASSERT_TRUE(screen.waitFor([&] { return !w.cmdCL.visible; }));
+  ASSERT_TRUE(screen.waitFor([&] { return !w.tutorial.stop.visible; }));
   screen.settle(1500);
-  EXPECT_EQ(w.state.demoBusy + w.state.demoMove + w.state.tutorialDeal, 0);
+  EXPECT_FALSE(w.state.demo.busy || w.state.tutorial.running);
+  EXPECT_FALSE(w.state.tutorial.nextIsComputers || w.state.tutorial.untilFirstCard);
   EXPECT_EQ(brokenInvariant(w.state), "");
 }
 

@@ -1,5 +1,6 @@
 // Whole games in the real window, through the X server's mouse and keyboard.
 #include <QRandomGenerator>
+#include <algorithm>
 
 #include <gtest/gtest.h>
 
@@ -17,16 +18,17 @@ class Player {
 
   void play() {
     screen_.shoot(name_ + "-opening");
-    for (int acts = 0; acts < 200 && screen_.state().theend == 0; ++acts) {
+    for (int acts = 0; acts < 200 && !screen_.state().gameOver; ++acts) {
       act();
       ASSERT_EQ(brokenInvariant(screen_.state()), "");
     }
-    ASSERT_EQ(screen_.state().theend, 1);
+    ASSERT_TRUE(screen_.state().gameOver);
     screen_.shoot(name_ + "-end");
-    for (std::size_t i = 1; i < 6; ++i) {
-      EXPECT_TRUE(screen_.widget(screen_.window().akhir[i]).isVisible());
+    MainWindow& w = screen_.window();
+    for (const Label* label : w.result.labels()) {
+      EXPECT_TRUE(label == &w.result.deadlock || screen_.widget(*label).isVisible());
     }
-    EXPECT_FALSE(screen_.window().tanda.visible);
+    EXPECT_FALSE(w.status.visible);
   }
 
  protected:
@@ -39,34 +41,31 @@ class Player {
  private:
   void act() {
     MainWindow& w = screen_.window();
-    if (w.authormevra.ctrcom.visible) {
+    if (w.state.passAwaitsOk) {
       if (!passSeen_) screen_.shoot(name_ + "-pass");
       passSeen_ = true;
       acknowledgePass();
-      ASSERT_TRUE(screen_.waitFor([&] { return !w.authormevra.ctrcom.visible; }));
-    } else if (w.canc.visible) {
+      ASSERT_TRUE(screen_.waitFor([&] { return !w.state.passAwaitsOk; }));
+    } else if (w.state.choiceOpen) {
       if (!choiceSeen_) screen_.shoot(name_ + "-choice");
       choiceSeen_ = true;
       choose();
-      ASSERT_TRUE(screen_.waitFor([&] { return !w.canc.visible; }));
-    } else if (w.jam.enabled) {
-      ASSERT_TRUE(screen_.waitFor([&] { return !w.jam.enabled; }));
+      ASSERT_TRUE(screen_.waitFor([&] { return !w.state.choiceOpen; }));
+    } else if (w.timer.enabled) {
+      ASSERT_TRUE(screen_.waitFor([&] { return !w.timer.enabled; }));
     } else {
       layAny();
     }
-    if (screen_.state().lina + screen_.state().linb == 14) screen_.shoot(name_ + "-middle");
+    if (cardsLaid(screen_.state()) == 14) screen_.shoot(name_ + "-middle");
   }
 
   void layAny() {
     GameState& s = screen_.state();
-    for (int i = playerFirst; i <= playerLast; ++i) {
-      const auto slot = static_cast<std::size_t>(i);
-      if (s.held[slot] != 1 || !matchesAny(s, i)) continue;
-      lay(i);
-      ASSERT_TRUE(screen_.waitFor([&] {
-        return s.held[slot] == 0 || screen_.window().canc.visible;
-      })) << "card "
-          << i << " was not laid";
+    for (const int slot : handOf(Side::Player)) {
+      if (!s.card(slot).held || !fits(s, slot)) continue;
+      lay(slot);
+      ASSERT_TRUE(screen_.waitFor([&] { return !s.card(slot).held || s.choiceOpen; }))
+          << "card " << slot << " was not laid";
       return;
     }
     FAIL() << "the player is asked to move and cannot";
@@ -81,11 +80,9 @@ class MousePlayer final : public Player {
   using Player::Player;
 
  private:
-  void acknowledgePass() override { screen_.click(screen_.window().authormevra.ctrcom); }
-  void choose() override { screen_.click(screen_.window().kiri); }
-  void lay(int card) override {
-    screen_.doubleClick(screen_.window().k[static_cast<std::size_t>(card)]);
-  }
+  void acknowledgePass() override { screen_.click(screen_.window().about.ok); }
+  void choose() override { screen_.click(screen_.window().choice.leftBottom); }
+  void lay(int card) override { screen_.doubleClick(screen_.window().card(card).frame); }
 };
 
 class KeyPlayer final : public Player {
@@ -94,14 +91,16 @@ class KeyPlayer final : public Player {
 
  private:
   void acknowledgePass() override { screen_.key("Return"); }
-  void choose() override { screen_.key(std::to_string(screen_.state().kotak[1])); }
+  void choose() override {
+    screen_.key(std::to_string(screen_.state().openNumber[End::LeftBottom]));
+  }
   void lay(int card) override {
     MainWindow& w = screen_.window();
     for (int presses = 0; presses < 30 && w.state.selectedCard != card; ++presses) {
       const int before = w.state.selectedCard;
       screen_.key("p");
       ASSERT_TRUE(screen_.waitFor([&] { return w.state.selectedCard != before; }));
-      if (w.canc.visible) return;
+      if (w.state.choiceOpen) return;
     }
     ASSERT_EQ(w.state.selectedCard, card);
     screen_.key(card % 2 == 0 ? "space" : "Return");
@@ -117,11 +116,11 @@ TEST(WholeGame, WithTheMouse) {
   screen.key("alt+f");
   screen.settle(200);
   screen.key("n");
-  ASSERT_TRUE(screen.waitFor([&] { return screen.state().theend == 0; }));
+  ASSERT_TRUE(screen.waitFor([&] { return !screen.state().gameOver; }));
   ASSERT_TRUE(screen.waitFor([&] { return screen.messages.size() == boxes + 1; }));
   screen.settle(100);
-  for (const auto& label : screen.window().akhir) EXPECT_FALSE(label.visible);
-  EXPECT_TRUE(screen.window().tanda.visible);
+  for (const Label* label : screen.window().result.labels()) EXPECT_FALSE(label->visible);
+  EXPECT_TRUE(screen.window().status.visible);
   EXPECT_EQ(brokenInvariant(screen.state()), "");
 }
 
@@ -139,18 +138,18 @@ TEST(WholeGame, SurvivesAStorm) {
   QRandomGenerator draw(7);
   const QStringList keys{"p", "Return", "space", "Escape", "0", "1", "2", "3", "4", "5", "6", "x"};
   const QRect area = screen.mainWidget().geometry();
-  for (int burst = 0; burst < 60 && screen.state().theend == 0; ++burst) {
+  for (int burst = 0; burst < 60 && !screen.state().gameOver; ++burst) {
     QStringList commands;
     for (int n = 0; n < 12; ++n) {
       if (draw.bounded(2) == 0) {
         commands << "key" << keys[draw.bounded(static_cast<int>(keys.size()))];
         continue;
       }
-      const auto card = static_cast<std::size_t>(draw.bounded(28));
+      Frame& card = screen.window().card(draw.bounded(28)).frame;
       const QPoint at = draw.bounded(3) == 0
                             ? area.topLeft() + QPoint(draw.bounded(area.width()),
                                                       60 + draw.bounded(area.height() - 60))
-                            : screen.widget(screen.window().k[card]).mapToGlobal(QPoint(15, 30));
+                            : screen.widget(card).mapToGlobal(QPoint(15, 30));
       commands << "mousemove" << QString::number(at.x()) << QString::number(at.y()) << "click"
                << "--repeat"
                << "2"
@@ -162,7 +161,7 @@ TEST(WholeGame, SurvivesAStorm) {
     screen.settle(40);
     ASSERT_EQ(brokenInvariant(screen.state()), "");
   }
-  if (screen.state().theend == 0) MousePlayer(screen, "storm").play();
+  if (!screen.state().gameOver) MousePlayer(screen, "storm").play();
 }
 
 // A card laid by a click must stand exactly in its place, and a click during its glide counts.
@@ -170,20 +169,20 @@ TEST(WholeGame, GlidesEndInPlaceAndEatNoClick) {
   Screen screen(3);
   screen.start();
   MainWindow& w = screen.window();
-  ASSERT_TRUE(screen.waitFor([&] { return !w.jam.enabled; }));
-  std::vector<std::size_t> fitting;
-  for (std::size_t i = 0; i < 14; ++i) {
-    if (w.state.held[i] == 1 && matchesAny(w.state, static_cast<int>(i))) fitting.push_back(i);
-  }
-  ASSERT_FALSE(fitting.empty());
-  screen.doubleClick(w.k[fitting[0]]);
-  ASSERT_TRUE(screen.waitFor([&] { return w.state.held[fitting[0]] == 0; }));
+  ASSERT_TRUE(screen.waitFor([&] { return !w.timer.enabled; }));
+  const auto hand = handOf(Side::Player);
+  const auto fitting =
+      std::find_if(hand.begin(), hand.end(), [&](int slot) { return fits(w.state, slot); });
+  ASSERT_NE(fitting, hand.end());
+  const Frame& frame = w.card(*fitting).frame;
+  screen.doubleClick(frame);
+  ASSERT_TRUE(screen.waitFor([&] { return !w.state.card(*fitting).held; }));
   screen.key("p");  // in mid-glide
   ASSERT_TRUE(screen.waitFor([&] { return w.state.selectedCard != noSelection; }, 500));
   screen.settle(300);
-  const QWidget& card = screen.widget(w.k[fitting[0]]);
-  EXPECT_NEAR(card.x(), w.k[fitting[0]].left / 15, 1);
-  EXPECT_NEAR(card.y(), w.k[fitting[0]].top / 15, 1);
+  const QWidget& card = screen.widget(frame);
+  EXPECT_NEAR(card.x(), frame.left / 15, 1);
+  EXPECT_NEAR(card.y(), frame.top / 15, 1);
 }
 
 }  // namespace

@@ -8,9 +8,8 @@
 #include <QtTest/QTest>
 #include <gtest/gtest.h>
 
-#include "game/rules.h"
-#include "guide/tip_text.h"
 #include "screen.h"
+#include "texts/tip_text.h"
 
 namespace mevracard {
 namespace {
@@ -39,19 +38,20 @@ TEST(Menus, AnswerAccessKeys) {
   screen.start();
   MainWindow& w = screen.window();
   chooseFromMenu(screen, {"alt+f", "c", "2"});
-  ASSERT_TRUE(screen.waitFor([&] { return w.cl2.checked && screen.messages.size() == 2; }));
-  EXPECT_FALSE(w.cl1.checked);
+  ASSERT_TRUE(
+      screen.waitFor([&] { return w.menu.computerLevel2.checked && screen.messages.size() == 2; }));
+  EXPECT_FALSE(w.menu.computerLevel1.checked);
   chooseFromMenu(screen, {"alt+f", "s"});
-  ASSERT_TRUE(screen.waitFor([&] { return w.kalahmenang.form.visible; }));
+  ASSERT_TRUE(screen.waitFor([&] { return w.statistics.form.visible; }));
   screen.shoot("statistics");
   EXPECT_FALSE(w.form.enabled);
   screen.key("Return");
   ASSERT_TRUE(screen.waitFor([&] { return w.form.enabled; }));
   chooseFromMenu(screen, {"alt+h", "a"});
-  ASSERT_TRUE(screen.waitFor([&] { return w.authormevra.form.visible; }));
+  ASSERT_TRUE(screen.waitFor([&] { return w.about.form.visible; }));
   screen.shoot("about");
   chooseFromMenu(screen, {"alt+F4"});
-  ASSERT_TRUE(screen.waitFor([&] { return !w.authormevra.form.visible; }));
+  ASSERT_TRUE(screen.waitFor([&] { return !w.about.form.visible; }));
   chooseFromMenu(screen, {"alt+f", "n"});
   ASSERT_TRUE(screen.waitFor([&] { return screen.messages.size() == 4; }));
   EXPECT_EQ(screen.messages[2], "Aborting makes you lose this game");
@@ -64,9 +64,9 @@ TEST(Tips, FitTheirWindow) {
   MainWindow& w = screen.window();
   screen.state().tipText = tipHeading() + sameNumberTip(3, 5);
   chooseFromMenu(screen, {"alt+h", "t"});
-  ASSERT_TRUE(screen.waitFor([&] { return w.authormevra.form.visible; }));
+  ASSERT_TRUE(screen.waitFor([&] { return w.about.form.visible; }));
   screen.shoot("tips");
-  for (const auto* bar : screen.widget(w.authormevra.additional).findChildren<QScrollBar*>()) {
+  for (const auto* bar : screen.widget(w.about.tip).findChildren<QScrollBar*>()) {
     EXPECT_FALSE(bar->isVisible());
   }
 }
@@ -91,13 +91,13 @@ TEST(Tips, CloseBoxAfterAPassCountsAsOk) {
   MainWindow& w = screen.window();
   w.stackedDeck = deckWithoutZeros();
   screen.start();
-  ASSERT_TRUE(w.authormevra.ctrcom.visible);
+  ASSERT_TRUE(w.about.ok.visible);
   EXPECT_FALSE(w.form.enabled);
   screen.shoot("opening-pass");
   screen.key("alt+F4");
   ASSERT_TRUE(screen.waitFor([&] { return w.form.enabled; }));
-  EXPECT_EQ(w.state.sisa[3], 1);
-  ASSERT_TRUE(screen.waitFor([&] { return w.state.lina + w.state.linb > 0; }));
+  EXPECT_EQ(w.state.passes[Side::Player], 1);
+  ASSERT_TRUE(screen.waitFor([&] { return cardsLaid(w.state) > 0; }));
 }
 
 // A covered card must give nothing away, neither to the eye nor to a screen reader.
@@ -105,17 +105,18 @@ TEST(CoveredCards, TellNothing) {
   Screen screen(3, "2/1/85\r\n");
   screen.start();
   MainWindow& w = screen.window();
-  ASSERT_TRUE(screen.waitFor([&] { return !w.jam.enabled; }));
+  ASSERT_TRUE(screen.waitFor([&] { return !w.timer.enabled; }));
   screen.shoot("covered");
   QAccessible::setActive(true);
   int covered = 0;
-  for (std::size_t i = computerFirst; i <= computerLast; ++i) {
-    if (!w.luar1[i].visible) continue;
+  for (const int slot : handOf(Side::Computer)) {
+    const CardControls& card = w.card(slot);
+    if (!card.back.ground.visible) continue;
     ++covered;
-    QWidget& card = screen.widget(w.k[i]);
-    const QString texts = spokenTexts(QAccessible::queryAccessibleInterface(&card));
+    QWidget& frame = screen.widget(card.frame);
+    const QString texts = spokenTexts(QAccessible::queryAccessibleInterface(&frame));
     EXPECT_FALSE(texts.contains(QRegularExpression("[0-9]"))) << texts.toStdString();
-    EXPECT_THROW((void)screen.widget(w.a[i]), std::runtime_error);
+    EXPECT_THROW((void)screen.widget(card.upper), std::runtime_error);
   }
   EXPECT_GT(covered, 5);
 }
@@ -130,24 +131,24 @@ TEST(ScreenSize, ComesBackToTheSamePicture) {
   Screen screen;
   screen.start();
   MainWindow& w = screen.window();
-  ASSERT_TRUE(screen.waitFor([&] { return !w.jam.enabled; }));
+  ASSERT_TRUE(screen.waitFor([&] { return !w.timer.enabled; }));
   screen.tool({"mousemove", "5", "5"});
   const QImage fresh = pictureOfTable(screen);
   chooseFromMenu(screen, {"alt+o"});
-  ASSERT_TRUE(screen.waitFor([&] { return w.scrctrl.visible; }));
+  ASSERT_TRUE(screen.waitFor([&] { return w.sizePanel.bar.visible; }));
   screen.shoot("panel");
-  auto& bar = dynamic_cast<QScrollBar&>(screen.widget(w.scrctrl));
+  auto& bar = dynamic_cast<QScrollBar&>(screen.widget(w.sizePanel.bar));
   for (int round = 0; round < 20; ++round) {
     for (int value = 98; value >= 70; --value)
       bar.triggerAction(QAbstractSlider::SliderSingleStepSub);
-    ASSERT_EQ(w.scrctrl.value, 70);
+    ASSERT_EQ(w.sizePanel.bar.value, 70);
     if (round == 0) screen.shoot("smallest");
     for (int value = 71; value <= 99; ++value)
       bar.triggerAction(QAbstractSlider::SliderSingleStepAdd);
-    ASSERT_EQ(w.scrctrl.value, 99);
+    ASSERT_EQ(w.sizePanel.bar.value, 99);
   }
-  screen.click(w.cmdscreen);
-  ASSERT_TRUE(screen.waitFor([&] { return !w.scrctrl.visible; }));
+  screen.click(w.sizePanel.ok);
+  ASSERT_TRUE(screen.waitFor([&] { return !w.sizePanel.bar.visible; }));
   screen.tool({"mousemove", "5", "5"});
   const QImage after = pictureOfTable(screen);
   int different = 0;

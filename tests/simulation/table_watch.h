@@ -1,7 +1,5 @@
 #pragma once
 
-#include <array>
-
 #include "simulate/chain_log.h"
 
 namespace mevracard::simulate {
@@ -32,14 +30,13 @@ class TableWatch {
 
   const MainWindow& w_;
   ChainLog chain_;
-  std::array<int, 2> open_{};                  ///< the number that the last card of each end opened
-  std::array<std::optional<int>, 2> endCard_;  ///< that card
-  int surplus_ = 0;                            ///< cards of the computer that its count has missed
+  PerEnd<int> open_;                    ///< the number that the last card of each end opened
+  PerEnd<std::optional<int>> endCard_;  ///< that card
+  int surplus_ = 0;                     ///< cards of the computer that its count has missed
   Met& met_;
   // As they stood after the event before.
-  std::array<int, 4> sisa_{14, 14, 0, 0};
-  int theend_ = 0;
-  bool choiceWasOpen_ = false, replyWasDue_ = false;
+  GameState before_;
+  bool replyWasDue_ = false;
 };
 
 }  // namespace mevracard::simulate

@@ -26,7 +26,7 @@ class Session {
   }
 
   void doSomething();
-  [[nodiscard]] bool gameIsOver() const { return w_.state.theend == 1; }
+  [[nodiscard]] bool gameIsOver() const { return w_.state.gameOver; }
   /// What does not hold; empty as long as all is well.
   [[nodiscard]] const std::string& complaint() const { return complaint_; }
   [[nodiscard]] const std::string& script() const { return script_; }
@@ -86,11 +86,11 @@ class Session {
 
   void layFittingCard() {
     const auto card = chooseCard(w_.state, Style::Random, random_);
-    if (card) doubleClick(w_.k[static_cast<std::size_t>(*card)]);
+    if (card) doubleClick(w_.card(*card).frame);
   }
   void doubleClickAnything() {
-    const auto i = static_cast<std::size_t>(random_.below(cardCount));
-    doubleClick(anyOf<Control>({&w_.k[i], &w_.a[i], &w_.b[i]}));
+    CardControls& card = w_.card(random_.below(cardCount));
+    doubleClick(anyOf<Control>({&card.frame, &card.upper, &card.lower}));
   }
   void pressAnyKey() {
     constexpr std::string_view keys = "0123456pPx\r \x1b";
@@ -105,42 +105,47 @@ class Session {
     did("tick");
   }
   void answerChoice() {
-    click(anyOf<Control>({&w_.kiri, &w_.kanan, &w_.kiri, &w_.kanan, &w_.canc}));
+    Choice& choice = w_.choice;
+    click(anyOf<Control>({&choice.leftBottom, &choice.rightTop, &choice.leftBottom,
+                          &choice.rightTop, &choice.cancel}));
   }
   void acknowledgePass() {
-    if (random_.below(4) > 0) return click(w_.authormevra.ctrcom);
-    close(w_.authormevra.form);
+    if (random_.below(4) > 0) return click(w_.about.ok);
+    close(w_.about.form);
   }
   void useWindows() {
-    StatisticsWindow& statistics = w_.kalahmenang;
+    StatisticsWindow& statistics = w_.statistics;
+    MenuEntries& m = w_.menu;
     const int what = random_.below(6);
-    if (what < 2) return menu(anyOf({&w_.tips, &w_.author, &w_.stat}));
-    if (what == 3) return close(anyOf({&w_.authormevra.form, &statistics.form}));
-    if (what == 4) return click(statistics.hapusrec);
-    click(statistics.tutuprec);
+    if (what < 2) return menu(anyOf({&m.tips, &m.about, &m.statistics}));
+    if (what == 3) return close(anyOf({&w_.about.form, &statistics.form}));
+    if (what == 4) return click(statistics.clear);
+    click(statistics.ok);
   }
   void useScreenPanel() {
     const int what = random_.below(3);
-    if (what == 0) return menu(anyOf({&w_.scr, &w_.rufoxx}));
-    if (what == 1) return click(w_.cmdscreen);
+    if (what == 0) return menu(anyOf({&w_.menu.screenOption, &w_.menu.helpScreenOption}));
+    if (what == 1) return click(w_.sizePanel.ok);
     const int value = 70 + random_.below(30);
-    desktop_.scroll(w_.scrctrl, value);
+    desktop_.scroll(w_.sizePanel.bar, value);
     did("scroll " + std::to_string(value));
   }
   void useTutorial() {
     const int what = random_.below(50);
-    if (what == 0) return menu(w_.how);
-    if (what < 10) return click(w_.cmdCL);
-    desktop_.mouseDown(w_.cmdHow);
+    if (what == 0) return menu(w_.menu.howToPlay);
+    if (what < 10) return click(w_.tutorial.stop);
+    desktop_.mouseDown(w_.tutorial.next);
     did("mousedown cmdHow");
-    click(w_.cmdHow);
+    click(w_.tutorial.next);
   }
   void startNewGame() {
     // Mostly after the end, but also out of vexation about a pass.
-    const bool wanted = gameIsOver() || w_.authormevra.ctrcom.visible;
+    const bool wanted = gameIsOver() || w_.state.passAwaitsOk;
     if (!wanted && random_.below(30) > 0) return;
     setClock();
-    menu(anyOf({&w_.rg, &w_.rg, &w_.pl1, &w_.pl2, &w_.cl1, &w_.cl2}));
+    MenuEntries& m = w_.menu;
+    menu(anyOf({&m.newGame, &m.newGame, &m.playerLevel1, &m.playerLevel2, &m.computerLevel1,
+                &m.computerLevel2}));
   }
 
   RandomStream random_;

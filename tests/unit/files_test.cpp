@@ -3,8 +3,8 @@
 
 #include "app/program.h"
 #include "platform/headless/headless_desktop.h"
+#include "play/recording.h"
 #include "store/digit_code.h"
-#include "store/recording.h"
 #include "store/settings.h"
 
 namespace mevracard {
@@ -49,7 +49,7 @@ TEST(Settings, AreReadByPosition) {
     EXPECT_EQ(settings->computerLevel, row.computer);
     EXPECT_EQ(settings->screenValue, row.screen);
   }
-  EXPECT_EQ(settingsText({" 2 ", ""}, 100), "2//100\r\n");
+  EXPECT_EQ(settingsText({2, std::nullopt}, 100), "2//100\r\n");
 }
 
 // A table with a repeated code would decode some record wrongly.
@@ -120,7 +120,7 @@ TEST(DataFiles, OddOnesNeverStopAStart) {
       files[std::string(name)] = odd;
       Program program(desktop);
       program.start();
-      EXPECT_EQ(program.window().state.kjumlah, 1);
+      EXPECT_EQ(program.window().state.openings, 1);
       EXPECT_TRUE(parseSettings(files[std::string(settingsFile)]).has_value());
       const bool torn = name == settingsFile && !parseSettings(odd);
       if (name == settingsFile) {

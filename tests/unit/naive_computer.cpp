@@ -7,9 +7,15 @@ namespace {
 
 struct Table {
   explicit Table(const GameState& s)
-      : first(s.kotak[0]), second(s.kotak[1]), a(s.a.data()), b(s.b.data()), held(s.held.data()) {}
+      : first(s.openNumber.values[0]), second(s.openNumber.values[1]) {
+    for (std::size_t i = 0; i < 28; ++i) {
+      a[i] = s.cards[i].upper;
+      b[i] = s.cards[i].lower;
+      held[i] = s.cards[i].held ? 1 : 0;
+    }
+  }
   int first, second;
-  const int *a, *b, *held;
+  int a[28], b[28], held[28];
   int targetRank[7] = {-1, -1, -1, -1, -1, -1, -1};
 };
 
@@ -34,17 +40,17 @@ void rankNumbers(Table& t) {
   }
 }
 
-void findLarangan(Table& t, GameState& s) {
+void findBan(Table& t, GameState& s) {
   int playedCount[7] = {};
   for (int i = 0; i <= 27; ++i) {
     if (t.held[i] == 0 && t.a[i] != t.b[i]) ++playedCount[t.a[i]];
     if (t.held[i] == 0 && t.a[i] != t.b[i]) ++playedCount[t.b[i]];
   }
-  s.larangan = 7;
+  s.bannedNumber = 7;
   for (int n = 0; n <= 6; ++n) {
     for (int i = 14; i <= 27; ++i) {
       if (playedCount[n] == 5 && (n == t.a[i] || n == t.b[i]) && t.held[i] == 1) {
-        s.larangan = n;
+        s.bannedNumber = n;
         t.targetRank[1] = t.targetRank[0];
         t.targetRank[0] = n;
       }
@@ -54,37 +60,38 @@ void findLarangan(Table& t, GameState& s) {
 
 Choice rankRule(const Table& t, GameState& s, int r, int j) {
   s.playCard = j;
-  const int T = t.targetRank[r], L = s.larangan, first = t.first, second = t.second;
+  const int T = t.targetRank[r], L = s.bannedNumber, first = t.first, second = t.second;
   const int x = t.a[j], y = t.b[j];
-  const auto is1 = [&] { return HitungMevra(s) == 1; };
-  const auto is0 = [&] { return HitungMevra(s) != 1; };
+  const auto loses = [&] { return verdictOn(s) == SameNumberVerdict::WouldLose; };
   if (t.held[j] != 1) return {};
-  if (x == y && x == first && L == second && is1()) return {A1, j, false};
-  if (x == y && x == second && L == first && is1()) return {A2, j, true};
-  if (x == y && T == x && x == first && is1()) return {B1, j, false};
-  if (x == y && T == x && x == second && is1()) return {B2, j, true};
-  if (x != y && ((T == x && y == first) || (T == y && x == first)) && is0()) return {C1, j, false};
-  if (x != y && ((T == y && x == second) || (T == x && y == second)) && is0()) return {C2, j, true};
+  if (x == y && x == first && L == second && loses()) return {A1, j, false};
+  if (x == y && x == second && L == first && loses()) return {A2, j, true};
+  if (x == y && T == x && x == first && loses()) return {B1, j, false};
+  if (x == y && T == x && x == second && loses()) return {B2, j, true};
+  if (x != y && ((T == x && y == first) || (T == y && x == first)) && !loses())
+    return {C1, j, false};
+  if (x != y && ((T == y && x == second) || (T == x && y == second)) && !loses())
+    return {C2, j, true};
   return {};
 }
 
-Choice larangan(const Table& t, GameState& s, int j) {
+Choice besideBan(const Table& t, GameState& s, int j) {
   s.playCard = j;
-  const int first = t.first, second = t.second, L = s.larangan, x = t.a[j], y = t.b[j];
+  const int first = t.first, second = t.second, L = s.bannedNumber, x = t.a[j], y = t.b[j];
   if (t.held[j] != 1) return {};
   if (((first != y && first != x) || second != L) && ((second != x && second != y) || first != L)) {
     return {};
   }
-  return HitungMevra(s) == 1 ? Choice{} : Choice{D, j, false};
+  return verdictOn(s) == SameNumberVerdict::WouldLose ? Choice{} : Choice{D, j, false};
 }
 
-Choice bahaya(const Table& t, GameState& s, int n, int j) {
+Choice doubleOrDanger(const Table& t, GameState& s, int n, int j) {
   s.playCard = j;
   const int first = t.first, second = t.second, x = t.a[j], y = t.b[j];
   for (int i = 0; i <= 13; ++i) {
     if (t.held[i] == 1 && t.a[i] == t.b[i] && (t.a[i] == first || t.a[i] == second) &&
         t.a[i] == n) {
-      s.bahaya = t.a[i];
+      s.danger = t.a[i];
       break;
     }
   }
@@ -93,34 +100,34 @@ Choice bahaya(const Table& t, GameState& s, int n, int j) {
     if (x == first) return {EDouble, j, false};
     return x == second ? Choice{EDouble, j, true} : Choice{};
   }
-  if (t.held[j] != 1 || (x != s.bahaya && y != s.bahaya)) return {};
+  if (t.held[j] != 1 || (x != s.danger && y != s.danger)) return {};
   for (int i = 0; i <= 13; ++i) {
-    if (t.held[i] == 1 && t.a[i] == t.b[i] && (t.a[i] == x || t.a[i] == y) && t.a[i] != s.bahaya) {
-      s.bahaya2 = t.a[i];
+    if (t.held[i] == 1 && t.a[i] == t.b[i] && (t.a[i] == x || t.a[i] == y) && t.a[i] != s.danger) {
+      s.secondDanger = t.a[i];
     }
-    if (t.a[i] == s.bahaya2) break;  // QUIRK-23: any card, by a number that may be an old one
+    if (t.a[i] == s.secondDanger) break;  // QUIRK-23: any card, by a number that may be an old one
   }
-  if (((x != s.bahaya2 && y == second) || (y == first && x != s.bahaya2) ||
-       (x == second && y != s.bahaya2) || (x == first && y != s.bahaya2)) &&
-      HitungMevra(s) != 1) {
+  if (((x != s.secondDanger && y == second) || (y == first && x != s.secondDanger) ||
+       (x == second && y != s.secondDanger) || (x == first && y != s.secondDanger)) &&
+      verdictOn(s) != SameNumberVerdict::WouldLose) {
     return {EMixed, j, false};
   }
   return {};
 }
 
-Choice secondBahaya(const Table& t, GameState& s, int n, int j) {
+Choice noDanger(const Table& t, GameState& s, int n, int j) {
   s.playCard = j;
   const int first = t.first, second = t.second, x = t.a[j], y = t.b[j];
   for (int i = 0; i <= 13; ++i) {
     if (t.held[i] == 1 && t.a[i] == t.b[i] && (t.a[i] == x || t.a[i] == y) && t.a[i] == n) {
-      s.bahaya = t.a[i];
+      s.danger = t.a[i];
       break;
     }
   }
   if (t.held[j] == 1 &&
-      ((x != s.bahaya && y == second) || (y == first && x != s.bahaya) ||
-       (x == second && y != s.bahaya) || (x == first && y != s.bahaya)) &&
-      HitungMevra(s) != 1) {
+      ((x != s.danger && y == second) || (y == first && x != s.danger) ||
+       (x == second && y != s.danger) || (x == first && y != s.danger)) &&
+      verdictOn(s) != SameNumberVerdict::WouldLose) {
     return {F, j, false};
   }
   return {};
@@ -128,21 +135,22 @@ Choice secondBahaya(const Table& t, GameState& s, int n, int j) {
 
 }  // namespace
 
-std::optional<int> HitungMevra(const GameState& s) {
+SameNumberVerdict verdictOn(const GameState& s) {
   const Table t(s);
   int sumP = 0, sumC = 0;
   for (int i = 0; i <= 13; ++i) {
     if (t.held[i] == 1) sumP += t.a[i] + t.b[i];
     if (t.held[i + 14] == 1) sumC += t.a[i + 14] + t.b[i + 14];
   }
-  std::optional<int> result;
+  SameNumberVerdict result = SameNumberVerdict::NoCard;
   for (int j = 14; j <= 27; ++j) {
     if (t.held[j] != 1) continue;
-    if (t.first != s.larangan && t.second != s.larangan) {
-      result = 0;
+    if (t.first != s.bannedNumber && t.second != s.bannedNumber) {
+      result = SameNumberVerdict::Harmless;
     } else if ((t.a[j] == t.first && t.b[j] == t.second) ||
                (t.a[j] == t.second && t.b[j] == t.first)) {
-      return sumC - (t.a[j] + t.b[j]) > sumP ? 1 : 0;
+      return sumC - (t.a[j] + t.b[j]) > sumP ? SameNumberVerdict::WouldLose
+                                             : SameNumberVerdict::Harmless;
     }
   }
   return result;
@@ -157,25 +165,25 @@ Choice choose(GameState& s, double draw) {
   Table t(s);
   Choice c;
   rankNumbers(t);
-  findLarangan(t, s);
+  findBan(t, s);
   for (int r = 0; r <= 1; ++r) {
     for (int j = 14; j <= 27; ++j) {
       if (c = rankRule(t, s, r, scansUpwards(draw) ? j : 41 - j); c.rule != G) return c;
     }
   }
   for (int j = 14; j <= 27; ++j) {
-    if (c = larangan(t, s, j); c.rule != G) return c;
+    if (c = besideBan(t, s, j); c.rule != G) return c;
   }
-  s.bahaya = s.bahaya2 = 7;
+  s.danger = s.secondDanger = 7;
   for (int n = 6; n >= 0; --n) {
     for (int j = 14; j <= 27; ++j) {
-      if (c = bahaya(t, s, n, j); c.rule != G) return c;
+      if (c = doubleOrDanger(t, s, n, j); c.rule != G) return c;
     }
   }
-  s.bahaya = 7;
+  s.danger = 7;
   for (int n = 6; n >= 0; --n) {
     for (int j = 14; j <= 27; ++j) {
-      if (c = secondBahaya(t, s, n, j); c.rule != G) return c;
+      if (c = noDanger(t, s, n, j); c.rule != G) return c;
     }
   }
   return {};

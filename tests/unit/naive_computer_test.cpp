@@ -19,7 +19,7 @@ namespace {
 std::size_t at(int i) { return static_cast<std::size_t>(i); }
 
 bool fits(const GameState& s, int i, int number) {
-  return s.a[at(i)] == number || s.b[at(i)] == number;
+  return s.cards[at(i)].upper == number || s.cards[at(i)].lower == number;
 }
 
 /// Positions in which the computer has a card to lay. Some come from random play, some are arranged
@@ -33,14 +33,17 @@ class Positions {
       if (kind < 7) play(s);
       if (kind > 4) arrange(s);
       for (int i = 0; i < cardCount; ++i) {  // cards are turned when they are laid
-        if (s.held[at(i)] == 0 && chance(50)) std::swap(s.a[at(i)], s.b[at(i)]);
+        if (!s.cards[at(i)].held && chance(50))
+          std::swap(s.cards[at(i)].upper, s.cards[at(i)].lower);
       }
-      s.larangan = below(8);  // left over from earlier turns
-      s.bahaya = below(8);
-      s.bahaya2 = below(8);
+      s.bannedNumber = below(8);  // left over from earlier turns
+      s.danger = below(8);
+      s.secondDanger = below(8);
       s.playCard = below(cardCount);
       for (int j = handSize; j < cardCount; ++j) {
-        if (s.held[at(j)] == 1 && (fits(s, j, s.kotak[0]) || fits(s, j, s.kotak[1]))) return s;
+        if (s.cards[at(j)].held &&
+            (fits(s, j, s.openNumber[End::RightTop]) || fits(s, j, s.openNumber[End::LeftBottom])))
+          return s;
       }
     }
   }
@@ -57,12 +60,12 @@ class Positions {
 
   GameState dealt() {
     GameState s;
-    s.held.fill(1);
+    for (Card& card : s.cards) card.held = true;
     int slot = 0;
     for (int x = 0; x <= 6; ++x) {
       for (int y = x; y <= 6; ++y, ++slot) {
-        s.a[at(slot)] = x;
-        s.b[at(slot)] = y;
+        s.cards[at(slot)].upper = x;
+        s.cards[at(slot)].lower = y;
       }
     }
     while (--slot > 0) exchange(s, slot, below(slot + 1));
@@ -70,29 +73,29 @@ class Positions {
   }
 
   static void exchange(GameState& s, int i, int j) {
-    std::swap(s.a[at(i)], s.a[at(j)]);
-    std::swap(s.b[at(i)], s.b[at(j)]);
+    std::swap(s.cards[at(i)].upper, s.cards[at(j)].upper);
+    std::swap(s.cards[at(i)].lower, s.cards[at(j)].lower);
   }
 
   static int slotOf(const GameState& s, int x, int y) {
     int i = 0;
-    while (s.a[at(i)] != std::min(x, y) || s.b[at(i)] != std::max(x, y)) ++i;
+    while (s.cards[at(i)].upper != std::min(x, y) || s.cards[at(i)].lower != std::max(x, y)) ++i;
     return i;
   }
 
   /// Some turns of both sides, each with any card that fits.
   void play(GameState& s) {
     const int opening = slotOf(s, 0, 0);
-    s.held[at(opening)] = 0;
+    s.cards[at(opening)].held = false;
     int side = opening < handSize ? 1 : 0;
     for (int turns = below(26); turns > 0; --turns, side = 1 - side) {
       const int start = below(handSize);
-      int& end = s.kotak[at(below(2))];
+      int& end = s.openNumber.values[at(below(2))];
       for (int k = 0; k < handSize; ++k) {
         const int i = side * handSize + (start + k) % handSize;
-        if (s.held[at(i)] == 0 || !fits(s, i, end)) continue;
-        end = s.a[at(i)] == end ? s.b[at(i)] : s.a[at(i)];
-        s.held[at(i)] = 0;
+        if (!s.cards[at(i)].held || !fits(s, i, end)) continue;
+        end = s.cards[at(i)].upper == end ? s.cards[at(i)].lower : s.cards[at(i)].upper;
+        s.cards[at(i)].held = false;
         break;
       }
     }
@@ -104,24 +107,24 @@ class Positions {
       exchange(s, slot, slot + handSize);
       slot += handSize;
     }
-    s.held[at(slot)] = 1;
+    s.cards[at(slot)].held = true;
   }
 
   void arrange(GameState& s) {
     const int player = below(101), computer = below(101);
     for (int i = 0; i < cardCount && player % 2 == 0; ++i) {  // else the hands of the play before
-      s.held[at(i)] = chance(i < handSize ? player : computer);
+      s.cards[at(i)].held = chance(i < handSize ? player : computer);
     }
     for (int rounds = 1 + below(2); rounds > 0; --rounds) {
       const int scarce = below(7), other = (scarce + 1 + below(6)) % 7;
       for (int n = 0; n <= 6; ++n) {
-        if (n != scarce) s.held[at(slotOf(s, scarce, n))] = 0;
+        if (n != scarce) s.cards[at(slotOf(s, scarce, n))].held = false;
       }
       if (chance(70)) giveToComputer(s, scarce, other);
       if (chance(50)) giveToComputer(s, scarce, scarce);
       if (chance(40)) giveToComputer(s, other, other);
-      s.kotak = {scarce, chance(10) ? scarce : chance(20) ? below(7) : other};
-      if (chance(50)) std::swap(s.kotak[0], s.kotak[1]);
+      s.openNumber = {{scarce, chance(10) ? scarce : chance(20) ? below(7) : other}};
+      if (chance(50)) std::swap(s.openNumber.values[0], s.openNumber.values[1]);
     }
   }
 
@@ -133,41 +136,41 @@ std::string script(const GameState& s, double draw) {
   std::ostringstream out;
   out << std::setprecision(17) << std::fixed << "start\nset computerLevel 2\n";
   for (int i = 0; i < cardCount; ++i) {
-    out << "set a(" << i << ") " << s.a[at(i)] << "\nset b(" << i << ") " << s.b[at(i)]
-        << "\nset held(" << i << ") " << s.held[at(i)] << '\n';
+    out << "set a(" << i << ") " << s.cards[at(i)].upper << "\nset b(" << i << ") "
+        << s.cards[at(i)].lower << "\nset held(" << i << ") " << s.cards[at(i)].held << '\n';
   }
-  out << "set kotak(0) " << s.kotak[0] << "\nset kotak(1) " << s.kotak[1] << "\nset playCard "
-      << s.playCard << "\nset larangan " << s.larangan << "\nset bahaya " << s.bahaya
-      << "\nset bahaya2 " << s.bahaya2 << '\n';
+  out << "set kotak(0) " << s.openNumber[End::RightTop] << "\nset kotak(1) "
+      << s.openNumber[End::LeftBottom] << "\nset playCard " << s.playCard << "\nset larangan "
+      << s.bannedNumber << "\nset bahaya " << s.danger << "\nset bahaya2 " << s.secondDanger
+      << '\n';
   out << "random " << draw << "\ncall komputer\n";
   return out.str();
 }
 
-/// What is compared: the scan; the card and whether the second end is asked for; `playCard`,
-/// `larangan`, `bahaya`, `bahaya2` as left behind; HitungMevra before and after, -1 for empty.
+/// What is compared: whether the scan goes upwards; the card and whether the second end is asked
+/// for; `playCard` and the tactical numbers as left behind; the verdict before and after.
 using Outcome = std::vector<std::vector<int>>;
 
 std::vector<int> leftBehind(const GameState& s) {
-  return {s.playCard, s.larangan, s.bahaya, s.bahaya2};
+  return {s.playCard, s.bannedNumber, s.danger, s.secondDanger};
 }
 
 Outcome outcomeOf(GameState s, double draw) {
-  const int before = HitungMevra(s).value_or(-1);
-  const ScanDirection scan = scanDirection(draw);
-  const auto chosen = selectTactically(s, scan);
+  const int before = static_cast<int>(sameNumberVerdict(s));
+  const Scan scan = scanFor(draw);
+  const auto chosen = chooseTactically(s, scan);
   const std::vector<int> laid{chosen ? chosen->card : -1, chosen && chosen->end == End::LeftBottom};
-  const int after = HitungMevra(s).value_or(-1);
-  return {{scan.from, scan.to, scan.step}, laid, leftBehind(s), {before, after}};
+  const int after = static_cast<int>(sameNumberVerdict(s));
+  return {{scan == Scan::Upwards}, laid, leftBehind(s), {before, after}};
 }
 
 Outcome expectedOutcome(GameState s, double draw, std::vector<int>& decided) {
-  const int before = naive::HitungMevra(s).value_or(-1);
-  const std::vector<int> scan =
-      naive::scansUpwards(draw) ? std::vector{14, 27, 1} : std::vector{27, 14, -1};
+  const int before = static_cast<int>(naive::verdictOn(s));
   const naive::Choice chosen = naive::choose(s, draw);
   ++decided[chosen.rule];
-  const int after = naive::HitungMevra(s).value_or(-1);
-  return {scan, {chosen.card, chosen.secondEnd}, leftBehind(s), {before, after}};
+  const int after = static_cast<int>(naive::verdictOn(s));
+  return {
+      {naive::scansUpwards(draw)}, {chosen.card, chosen.secondEnd}, leftBehind(s), {before, after}};
 }
 
 // Catches a wrong index, a lost reset, a shift too few or a comparison the wrong way round in any

@@ -1,26 +1,24 @@
-"""Who may include whom."""
+"""Who may include whom: each room's one rule, taken from the folder that a file stands in."""
 
 import re
 from pathlib import PurePosixPath
 
 from tree import ROOT, files, finish, lines
 
-# Pure files know the game and the standard library, no window and no desktop.
-PURE = {
-    "game/deal",
-    "game/grid",
-    "game/leading_number",
-    "game/rules",
-    "game/scoring",
-    "game/state",
-    "ai/evaluation",
-    "ai/tactics",
-    "guide/tip_text",
-    "store/digit_code",
-    "store/settings",
-    "store/statistics",
+# The rooms of src/, lower ones first, and what each knows besides itself and the standard library.
+KNOWS = {
+    "platform": "",
+    "platform/headless": "platform",
+    "platform/qt": "platform",
+    "game": "",
+    "texts": "",
+    "store": "game",
+    "ai": "game",
+    "ui": "platform game texts",
+    "play": "platform game texts store ai ui",
+    "app": "platform game texts store ai ui play",
 }
-DESKTOPS = ("platform/qt/", "platform/headless/")
+MAIN, MAIN_KNOWS = "src/app/main.cpp", "platform/qt"  # chooses the desktop
 TOOLKIT_ALLOWED = ("src/platform/qt/", "tests/desktop/", "bench/desktop/")
 INCLUDE = re.compile(r'\s*#\s*include\s*([<"])([^>"]+)')
 
@@ -30,12 +28,23 @@ def unit(path):
     return str(PurePosixPath(path.removeprefix("src/")).with_suffix(""))
 
 
+def room(path):
+    return str(PurePosixPath(path.removeprefix("src/")).parent)
+
+
+def rooms_known_to(path):
+    home = room(path)
+    return {home, *KNOWS[home].split(), *([MAIN_KNOWS] if path == MAIN else [])}
+
+
 def complaints_about(path, bracket, name):
     if bracket == "<":
-        if re.match(r"Q[A-Zt]", name) and not path.startswith(TOOLKIT_ALLOWED):
-            yield "a toolkit header has no place here"
-        if unit(path) in PURE and not re.fullmatch(r"[a-z_]+", name):
-            yield "a pure file includes the standard library and pure files alone"
+        if re.match(r"Q[A-Zt]", name):
+            if not path.startswith(TOOLKIT_ALLOWED):
+                yield "a toolkit header has no place here"
+        elif path.startswith("src/") and room(path) != "platform/qt":
+            if not re.fullmatch("[a-z_]+", name):
+                yield "only the standard library is known here"
         return
     if ".." in name:
         yield "include paths start at src/"
@@ -43,12 +52,13 @@ def complaints_about(path, bracket, name):
         return
     if not (ROOT / "src" / name).exists():
         yield "there is no such file below src/"
-    if unit(path) in PURE and unit(name) not in PURE:
-        yield "a pure file includes the standard library and pure files alone"
-    home = path.removeprefix("src/")
-    for desktop in DESKTOPS:
-        if name.startswith(desktop) and not home.startswith((desktop, "app/main.cpp")):
-            yield "only a desktop itself and its main know that desktop"
+    if room(name) not in rooms_known_to(path):
+        yield f"{room(path)}/ does not know {room(name)}/"
+
+
+def is_upwards(home, known):
+    order = list(KNOWS)
+    return order.index(known) > order.index(home)
 
 
 def cycle_in(graph):
@@ -69,8 +79,17 @@ def cycle_in(graph):
     return next(filter(None, map(visit, sorted(graph))), None)
 
 
-complaints, graph = [], {}
+complaints = [
+    f"the rule of {home}/ points up, to {known}/"
+    for home, rooms in KNOWS.items()
+    for known in rooms.split()
+    if is_upwards(home, known)
+]
+graph = {}
 for path in files(["src", "tests", "tools", "bench"], "h cpp"):
+    if path.startswith("src/") and room(path) not in KNOWS:
+        complaints.append(f"{path}: {room(path)}/ is no room")
+        continue
     for number, line in enumerate(lines(path), 1):
         if found := INCLUDE.match(line):
             bracket, name = found.groups()

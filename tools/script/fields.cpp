@@ -1,7 +1,6 @@
 #include "script/fields.h"
 
 #include <array>
-#include <span>
 #include <variant>
 
 #include "platform/headless/transcript.h"
@@ -18,163 +17,137 @@ constexpr Range cardNumber{0, 6};
 constexpr Range slot{0, cardCount - 1};
 constexpr double largestDecimal = 1e6;
 
-struct Whole {
+/// A flag that a script reads as empty until it is set.
+struct LateFlag {
+  bool* flag;
+};
+
+/// Where a field lies. A script writes flags as 0 and anything else, and reads 0 and 1.
+using Place = std::variant<int*, bool*, LateFlag, std::optional<int>*, double*, std::string*>;
+
+/// A field by its script name; an array has more than one element.
+struct Field {
   std::string_view name;
-  int GameState::*field;
+  Place (*placeIn)(GameState& s, int i);
   Range range = anyCount;
+  int elements = 1;
 };
 
-struct Optional {
-  std::string_view name;
-  std::optional<int> GameState::*field;
-  Range range = anyCount;
+// clang-format off
+constexpr auto rightTop = End::RightTop;
+constexpr auto leftBottom = End::LeftBottom;
+constexpr std::array fields{
+    Field{"a",    [](GameState& s, int i) -> Place { return &s.card(i).upper; }, cardNumber, cardCount},
+    Field{"b",    [](GameState& s, int i) -> Place { return &s.card(i).lower; }, cardNumber, cardCount},
+    Field{"held", [](GameState& s, int i) -> Place { return &s.card(i).held; }, anyCount, cardCount},
+    Field{"kotak", [](GameState& s, int i) -> Place { return &s.openNumber[static_cast<End>(i)]; }, anyCount, 2},
+    Field{"k0",   [](GameState& s, int) -> Place { return &s.endCard[rightTop]; }, slot},
+    Field{"k1",   [](GameState& s, int) -> Place { return &s.endCard[leftBottom]; }, slot},
+    Field{"lina", [](GameState& s, int) -> Place { return &s.laidAt[rightTop]; }},
+    Field{"linb", [](GameState& s, int) -> Place { return &s.laidAt[leftBottom]; }},
+    Field{"kjumlah", [](GameState& s, int) -> Place { return &s.openings; }},
+    Field{"sisa", [](GameState& s, int i) -> Place {
+            return &(i < 2 ? s.cardsLeft : s.passes)[static_cast<Side>(i % 2)]; }, anyCount, 4},
+    Field{"theend", [](GameState& s, int) -> Place { return &s.gameOver; }},
+    Field{"playCard", [](GameState& s, int) -> Place { return &s.playCard; }, slot},
+    Field{"moveMade", [](GameState& s, int) -> Place { return &s.cardWasLaid; }},
+    Field{"layPosition", [](GameState& s, int) -> Place { return &s.layPosition; }},
+    Field{"layColumn", [](GameState& s, int) -> Place { return &s.layColumn; }},
+    Field{"leftEndChosen", [](GameState& s, int) -> Place { return &s.playerAimsLeftBottom; }},
+    Field{"ngisor", [](GameState& s, int) -> Place { return &s.computerAimsLeftBottom; }},
+    Field{"selectedCard", [](GameState& s, int) -> Place { return &s.selectedCard; }, slot},
+    Field{"tipText", [](GameState& s, int) -> Place { return &s.tipText; }},
+    Field{"computerPassed", [](GameState& s, int) -> Place { return &s.computerPassed; }},
+    Field{"larangan", [](GameState& s, int) -> Place { return &s.bannedNumber; }},
+    Field{"bahaya", [](GameState& s, int) -> Place { return &s.danger; }},
+    Field{"bahaya2", [](GameState& s, int) -> Place { return &s.secondDanger; }},
+    Field{"tutorialActive", [](GameState& s, int) -> Place { return &s.tutorial.computerWaitsForNext; }},
+    Field{"tutorialDeal", [](GameState& s, int) -> Place { return &s.tutorial.untilFirstCard; }},
+    Field{"demoMove", [](GameState& s, int) -> Place { return &s.tutorial.nextIsComputers; }},
+    Field{"demoBusy", [](GameState& s, int) -> Place { return &s.demo.busy; }},
+    Field{"demoDone", [](GameState& s, int) -> Place { return &s.demo.done; }},
+    Field{"demoTick", [](GameState& s, int) -> Place { return &s.demo.tick; }},
+    Field{"n1", [](GameState& s, int) -> Place { return &s.demo.offset.x; }},
+    Field{"n2", [](GameState& s, int) -> Place { return &s.demo.offset.y; }},
+    Field{"n3", [](GameState& s, int) -> Place { return &s.demo.start.x; }},
+    Field{"n4", [](GameState& s, int) -> Place { return &s.demo.start.y; }},
+    Field{"dealSeed", [](GameState& s, int) -> Place { return &s.dealSeed; }},
+    Field{"firstDealDone", [](GameState& s, int) -> Place { return LateFlag{&s.newGameAsked}; }},
+    Field{"screenHeight", [](GameState& s, int) -> Place { return &s.screenHeight; }},
+    Field{"twipsPerPixel", [](GameState& s, int) -> Place { return &s.twipsPerPixel; }},
+    Field{"screenValue", [](GameState& s, int) -> Place { return &s.screenValue; }},
 };
+// clang-format on
 
-struct Decimal {
-  std::string_view name;
-  double GameState::*field;
-};
-
-struct Array {
-  std::string_view name;
-  std::span<int> (*elements)(GameState& s);
-  Range range = anyCount;
-};
-
-constexpr std::array<Whole, 24> wholes{{
-    {"lina", &GameState::lina},
-    {"linb", &GameState::linb},
-    {"kjumlah", &GameState::kjumlah},
-    {"moveMade", &GameState::moveMade},
-    {"playCard", &GameState::playCard, slot},
-    {"layPosition", &GameState::layPosition},
-    {"layColumn", &GameState::layColumn},
-    {"leftEndChosen", &GameState::leftEndChosen},
-    {"ngisor", &GameState::ngisor},
-    {"selectedCard", &GameState::selectedCard, slot},
-    {"theend", &GameState::theend},
-    {"screenHeight", &GameState::screenHeight},
-    {"twipsPerPixel", &GameState::twipsPerPixel},
-    {"screenValue", &GameState::screenValue},
-    {"computerPassed", &GameState::computerPassed},
-    {"larangan", &GameState::larangan},
-    {"bahaya", &GameState::bahaya},
-    {"bahaya2", &GameState::bahaya2},
-    {"tutorialActive", &GameState::tutorialActive},
-    {"demoMove", &GameState::demoMove},
-    {"demoTick", &GameState::demoTick},
-    {"demoDone", &GameState::demoDone},
-    {"demoBusy", &GameState::demoBusy},
-    {"tutorialDeal", &GameState::tutorialDeal},
-}};
-
-constexpr std::array<Optional, 3> optionals{{
-    {"k0", &GameState::k0, slot},
-    {"k1", &GameState::k1, slot},
-    {"firstDealDone", &GameState::firstDealDone},
-}};
-
-constexpr std::array<Decimal, 5> decimals{{
-    {"dealSeed", &GameState::dealSeed},
-    {"n1", &GameState::n1},
-    {"n2", &GameState::n2},
-    {"n3", &GameState::n3},
-    {"n4", &GameState::n4},
-}};
-
-constexpr std::array<Array, 5> arrays{{
-    {"a", [](GameState& s) { return std::span<int>(s.a); }, cardNumber},
-    {"b", [](GameState& s) { return std::span<int>(s.b); }, cardNumber},
-    {"held", [](GameState& s) { return std::span<int>(s.held); }},
-    {"kotak", [](GameState& s) { return std::span<int>(s.kotak); }},
-    {"sisa", [](GameState& s) { return std::span<int>(s.sisa); }},
-}};
-
-template <typename Target>
-struct Place {
-  Target* target;
+struct Found {
+  Place place;
   Range range;
 };
 
-using Field =
-    std::variant<std::monostate, Place<int>, Place<std::optional<int>>, double*, std::string*>;
-
-template <typename Table>
-auto findRow(const Table& table, std::string_view name) {
-  const auto* row = table.begin();
-  while (row != table.end() && row->name != name) ++row;
-  return row == table.end() ? nullptr : row;
-}
-
 /// "held(3)" is element 3 of the array; the name must be written as it is shown.
-Field findElement(GameState& s, std::string_view name) {
-  for (const auto& row : arrays) {
-    const auto elements = row.elements(s);
-    if (!name.starts_with(std::string(row.name) + "(")) continue;
-    for (std::size_t i = 0; i < elements.size(); ++i) {
-      if (name == std::string(row.name) + "(" + std::to_string(i) + ")") {
-        return Place<int>{&elements[i], row.range};
+std::optional<Found> find(GameState& s, std::string_view name) {
+  for (const Field& field : fields) {
+    if (!name.starts_with(field.name)) continue;
+    if (field.elements == 1 && name == field.name) return Found{field.placeIn(s, 0), field.range};
+    for (int i = 0; field.elements > 1 && i < field.elements; ++i) {
+      if (name == std::string(field.name) + "(" + std::to_string(i) + ")") {
+        return Found{field.placeIn(s, i), field.range};
       }
     }
   }
-  return {};
-}
-
-Field findField(GameState& s, std::string_view name) {
-  if (const auto* row = findRow(wholes, name)) return Place<int>{&(s.*row->field), row->range};
-  if (const auto* row = findRow(optionals, name)) {
-    return Place<std::optional<int>>{&(s.*row->field), row->range};
-  }
-  if (const auto* row = findRow(decimals, name)) return &(s.*row->field);
-  if (name == "tipText") return &s.tipText;
-  return findElement(s, name);
+  return std::nullopt;
 }
 
 struct TextOf {
-  std::optional<std::string> operator()(std::monostate) const { return std::nullopt; }
-  std::optional<std::string> operator()(Place<int> place) const {
-    return std::to_string(*place.target);
+  std::string operator()(const int* number) const { return std::to_string(*number); }
+  std::string operator()(const bool* flag) const { return flagText(*flag); }
+  std::string operator()(LateFlag late) const { return *late.flag ? flagText(true) : quoted(""); }
+  std::string operator()(const std::optional<int>* number) const {
+    return *number ? std::to_string(**number) : quoted("");
   }
-  std::optional<std::string> operator()(Place<std::optional<int>> place) const {
-    return *place.target ? std::to_string(**place.target) : quoted("");
-  }
-  std::optional<std::string> operator()(const double* field) const { return decimalText(*field); }
-  std::optional<std::string> operator()(const std::string* field) const { return quoted(*field); }
+  std::string operator()(const double* number) const { return decimalText(*number); }
+  std::string operator()(const std::string* text) const { return quoted(*text); }
 };
 
 struct Writer {
-  std::string_view name, value;
+  std::string_view value;
+  Range range;
 
-  void operator()(std::monostate) const { throw ScriptError("no field " + excerpt(name)); }
-  void operator()(Place<int> place) const { *place.target = parseInteger(value, place.range); }
-  void operator()(Place<std::optional<int>> place) const {
-    *place.target =
-        value == quoted("") ? std::nullopt : std::optional(parseInteger(value, place.range));
+  void operator()(int* number) const { *number = parseInteger(value, range); }
+  void operator()(bool* flag) const { *flag = parseInteger(value, range) != 0; }
+  void operator()(LateFlag late) const {
+    *late.flag = value != quoted("") && parseInteger(value, range) != 0;
   }
-  void operator()(double* field) const {
-    *field = parseDecimal(value, -largestDecimal, largestDecimal);
+  void operator()(std::optional<int>* number) const {
+    *number = value == quoted("") ? std::nullopt : std::optional(parseInteger(value, range));
   }
-  void operator()(std::string* field) const { *field = parseText(value); }
+  void operator()(double* number) const {
+    *number = parseDecimal(value, -largestDecimal, largestDecimal);
+  }
+  void operator()(std::string* text) const { *text = parseText(value); }
 };
-
-void checkLevel(MenuEntry& first, MenuEntry& second, std::string_view value) {
-  const int level = parseInteger(value, {1, 2});
-  first.checked = level == 1;
-  second.checked = level == 2;
-}
 
 }  // namespace
 
 std::optional<std::string> fieldText(MainWindow& w, std::string_view name) {
   if (name == "scaleFactor") return decimalText(w.scaleFactor());
-  return std::visit(TextOf{}, findField(w.state, name));
+  const auto found = find(w.state, name);
+  if (!found) return std::nullopt;
+  return std::visit(TextOf{}, found->place);
 }
 
 void setField(MainWindow& w, std::string_view name, std::string_view value) {
+  constexpr Range level{1, 2};
   if (name == "scaleFactor") throw ScriptError("scaleFactor follows from screenValue");
-  if (name == "computerLevel") return checkLevel(w.cl1, w.cl2, value);
-  if (name == "playerLevel") return checkLevel(w.pl1, w.pl2, value);
-  std::visit(Writer{name, value}, findField(w.state, name));
+  if (name == "computerLevel") {
+    w.state.computerLevel = parseInteger(value, level);
+  } else if (name == "playerLevel") {
+    w.state.playerLevel = parseInteger(value, level);
+  } else if (const auto found = find(w.state, name)) {
+    std::visit(Writer{value, found->range}, found->place);
+  } else {
+    throw ScriptError("no field " + excerpt(name));
+  }
 }
 
 }  // namespace mevracard::script

@@ -32,7 +32,7 @@ Part& wanted(Part* part, const char* kind, std::string_view name) {
 }  // namespace
 
 Names::Names(MainWindow& w) {
-  for (Form* form : {&w.form, &w.authormevra.form, &w.kalahmenang.form}) addWindow(*form);
+  for (Form* form : {&w.form, &w.about.form, &w.statistics.form}) addWindow(*form);
 }
 
 void Names::addWindow(Form& form) {

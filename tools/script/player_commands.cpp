@@ -40,7 +40,7 @@ int parseKey(std::string_view word) {
 void key(const Call& call) { report(call.session().desktop.key(parseKey(call.words[0]))); }
 
 void scroll(const Call& call) {
-  ScrollBar& bar = call.session().window().scrctrl;
+  ScrollBar& bar = call.session().window().sizePanel.bar;
   const int value = parseInteger(call.words[0], {bar.minimum, bar.maximum});
   report(call.session().desktop.scroll(bar, value));
 }

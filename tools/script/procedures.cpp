@@ -3,22 +3,21 @@
 #include <array>
 
 #include "ai/evaluation.h"
-#include "ai/komputer.h"
-#include "ai/passing.h"
-#include "flow/new_game.h"
-#include "flow/player_input.h"
-#include "flow/same_number_choice.h"
-#include "game/ending.h"
-#include "game/opening.h"
-#include "game/placement.h"
 #include "game/rules.h"
-#include "guide/tips.h"
-#include "guide/tutorial.h"
-#include "guide/tutorial_end.h"
+#include "play/computer_turn.h"
+#include "play/demonstration.h"
+#include "play/ending.h"
+#include "play/new_game.h"
+#include "play/opening.h"
+#include "play/passing.h"
+#include "play/placement.h"
+#include "play/player_input.h"
+#include "play/same_number_choice.h"
+#include "play/screen_scale.h"
+#include "play/size_panel.h"
+#include "play/tips.h"
+#include "play/tutorial_end.h"
 #include "script/values.h"
-#include "ui/card_cover.h"
-#include "ui/screen_panel.h"
-#include "ui/screen_scale.h"
 
 namespace mevracard::script {
 
@@ -29,33 +28,49 @@ struct Plain {
   void (*run)(MainWindow& w);
 };
 
-constexpr std::array<Plain, 21> plain{{
-    {"Form_Load", Form_Load},
-    {"Awal", Awal},
-    {"discard00", discard00},
-    {"Cocok", Cocok},
-    {"moving", moving},
-    {"player_akhir", player_akhir},
-    {"computer_akhir", computer_akhir},
-    {"deadlock", deadlock},
-    {"Hitung", Hitung},
-    {"akhirmain", akhirmain},
-    {"komputer", komputer},
-    {"lastmove", lastmove},
-    {"BukaCover", BukaCover},
-    {"gnr", gnr},
-    {"MouseMv", MouseMv},
-    {"how_hilang", how_hilang},
-    {"kiri_Click", kiri_Click},
-    {"kanan_Click", kanan_Click},
-    {"canc_Click", canc_Click},
-    {"mulai_Click", mulai_Click},
-    {"cmdscreen_Click", cmdscreen_Click},
-}};
+void layPlayCard(MainWindow& w) { layCard(w, w.state.playCard); }
+void uncoverPlayCard(MainWindow& w) { w.card(w.state.playCard).uncover(); }
+
+constexpr std::array plain{
+    Plain{"Form_Load", startGame},
+    Plain{"Awal", deal},
+    Plain{"discard00", openWithDoubleZero},
+    Plain{"Cocok", layPlayCard},
+    Plain{"moving", glideCard},
+    Plain{"player_akhir", afterPlayersCard},
+    Plain{"computer_akhir", computerHasWon},
+    Plain{"deadlock", deadlock},
+    Plain{"Hitung", showSums},
+    Plain{"akhirmain", showResult},
+    Plain{"komputer", takeComputersTurn},
+    Plain{"lastmove", closeComputersTurn},
+    Plain{"BukaCover", uncoverPlayCard},
+    Plain{"gnr", appendGeneralTip},
+    Plain{"MouseMv", aimPointer},
+    Plain{"how_hilang", endTutorial},
+    Plain{"kiri_Click", chooseLeftBottom},
+    Plain{"kanan_Click", chooseRightTop},
+    Plain{"canc_Click", cancelChoice},
+    Plain{"mulai_Click", pressDiscard},
+    Plain{"cmdscreen_Click", closeSizePanel},
+};
 
 std::string evaluationText(const GameState& s) {
-  const std::optional<int> result = HitungMevra(s);
-  return result ? std::to_string(*result) : "empty";
+  switch (sameNumberVerdict(s)) {
+    case SameNumberVerdict::WouldLose:
+      return "1";
+    case SameNumberVerdict::Harmless:
+      return "0";
+    case SameNumberVerdict::NoCard:
+      break;
+  }
+  return "empty";
+}
+
+/// The slots from `lo` to `hi`, none if they are the wrong way round.
+std::span<const int> slotsBetween(int lo, int hi) {
+  const int count = hi < lo ? 0 : hi - lo + 1;
+  return std::span(allSlots).subspan(static_cast<std::size_t>(lo), static_cast<std::size_t>(count));
 }
 
 void expectArguments(std::string_view name, std::span<const std::string_view> arguments,
@@ -84,13 +99,13 @@ Procedure procedureNamed(std::string_view name, std::span<const std::string_view
     expectArguments(name, arguments, 2);
     constexpr Range slot{0, cardCount - 1};
     return [lo = parseInteger(arguments[0], slot), hi = parseInteger(arguments[1], slot)](
-               MainWindow& w) { return std::to_string(noPlayableCard(w.state, lo, hi)); };
+               MainWindow& w) { return flagText(noneFits(w.state, slotsBetween(lo, hi))); };
   }
   if (name == "ScreenScale") {
     expectArguments(name, arguments, 1);
     return [factor = parseDecimal(arguments[0], -1e6, 1e6)](
                MainWindow& w) -> std::optional<std::string> {
-      ScreenScale(w, factor);
+      rescaleTable(w, factor);
       return std::nullopt;
     };
   }

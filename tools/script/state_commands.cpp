@@ -29,8 +29,8 @@ std::string valueText(Session& session, std::string_view name) {
   if (name == "order") return orderText(w);
   if (name == "focus") return focusText(session.desktop);
   if (name == "random") return std::to_string(session.desktop.world.draws.size());
-  if (name == "jam.enabled") return flagText(w.jam.enabled);
-  if (name == "jam.interval") return std::to_string(w.jam.interval);
+  if (name == "jam.enabled") return flagText(w.timer.enabled);
+  if (name == "jam.interval") return std::to_string(w.timer.interval);
   if (auto field = fieldText(w, name)) return *field;
   return propertyText(session.names(), name);
 }

@@ -77,8 +77,8 @@ void allow(const Call& call) {
 
 void pointer(const Call& call) {
   const std::string_view word = call.words[0];
+  // Without a screen, a pointer that is drawn and one that is moved are the same.
   if (word != "yes" && word != "no") throw ScriptError("pointer yes or no");
-  world(call).pointerMoves = word == "yes";
 }
 
 void reset(const Call& call) { call.slot = std::make_unique<Session>(); }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <vector>
 
 #include "ui/main_window.h"
@@ -24,10 +23,10 @@ class ChainLog {
   /// std::logic_error if no card lies where the chain has grown.
   [[nodiscard]] const std::vector<LaidCard>& cardsLaid(const MainWindow& w);
   /// A new game lies on the table.
-  void restart() { counts_ = {}; }
+  void restart() { seen_ = {}; }
 
  private:
-  std::array<int, 2> counts_{};  ///< cards already seen at each end
+  PerEnd<int> seen_;  ///< how many cards of each end
   std::vector<LaidCard> laid_;
 };
 

@@ -2,7 +2,6 @@
 
 #include <stdexcept>
 
-#include "game/rules.h"
 #include "simulate/chain_log.h"
 #include "simulate/table.h"
 
@@ -15,25 +14,24 @@ constexpr int mostEvents = 200;
 
 void count(Figures& figures, const std::vector<LaidCard>& laid, Signature& signature) {
   for (const LaidCard& card : laid) {
-    ++(card.slot <= playerLast ? figures.player : figures.computer).cards;
+    ++(ownerOf(card.slot) == Side::Player ? figures.player : figures.computer).cards;
     signature.fold(card.slot);
     signature.fold(static_cast<int>(card.end));
     signature.fold(card.opened);
   }
 }
 
-void countResult(Figures& figures, const MainWindow& w, Signature& signature) {
-  const bool won = w.akhir[5].caption == "You win";
-  const bool deadlock = w.akhir[0].visible;
+void countResult(Figures& figures, const GameState& s, Signature& signature) {
+  const bool won = s.result == GameResult::Won;
   ++(won ? figures.wins : figures.losses);
-  figures.deadlocks = deadlock ? 1 : 0;
-  figures.computer.passes = w.state.sisa[2];
-  figures.player.passes = w.state.sisa[3];
-  figures.cardsOnTable = 1 + w.state.lina + w.state.linb;
+  figures.deadlocks = s.deadlock ? 1 : 0;
+  figures.computer.passes = s.passes[Side::Computer];
+  figures.player.passes = s.passes[Side::Player];
+  figures.cardsOnTable = 1 + s.laidAt[End::RightTop] + s.laidAt[End::LeftBottom];
   signature.fold(won ? 1 : 0);
-  signature.fold(deadlock ? 1 : 0);
-  signature.fold(w.state.sisa[2]);
-  signature.fold(w.state.sisa[3]);
+  signature.fold(s.deadlock ? 1 : 0);
+  signature.fold(s.passes[Side::Computer]);
+  signature.fold(s.passes[Side::Player]);
 }
 
 }  // namespace
@@ -55,12 +53,12 @@ Figures playGame(const Request& request, int number, Signature& signature) {
   MainWindow& w = table.window();
   ChainLog chain;
   Figures figures;
-  for (int events = 0; w.state.theend == 0; ++events) {
+  for (int events = 0; !w.state.gameOver; ++events) {
     if (events == mostEvents) throw std::logic_error("the game does not end");
     table.goOn();
     count(figures, chain.cardsLaid(w), signature);
   }
-  countResult(figures, w, signature);
+  countResult(figures, w.state, signature);
   return figures;
 }
 

@@ -1,14 +1,14 @@
 #include "simulate/table.h"
 
+#include "store/settings.h"
 #include "store/statistics.h"
-#include "ui/choice.h"
 
 namespace mevracard::simulate {
 
 Table::Table(const Request& request, std::uint64_t seed)
     : style_(request.player), random_(seed), program_(desktop_) {
   World& world = desktop_.world;
-  world.files.emplace(settingsFile, settingsText({"1", std::to_string(request.level)}, 99));
+  world.files.emplace(settingsFile, settingsText({1, request.level}, 99));
   world.files.emplace(statisticsFile, emptyRecordText());
   // The deal draws once a card, the computer once a turn in which it lays one. All of it comes from
   // the seed, so that date and clock do not matter.
@@ -22,14 +22,15 @@ void Table::goOn() {
 
 Attempt Table::next() {
   MainWindow& w = window();
-  if (w.authormevra.ctrcom.visible) return desktop_.click(w.authormevra.ctrcom);
+  if (w.state.passAwaitsOk) return desktop_.click(w.about.ok);
   if (computerIsToMove()) return desktop_.tick();
-  if (choiceIsOpen(w)) {
-    return desktop_.click(chooseEnd(style_, random_) == End::LeftBottom ? w.kiri : w.kanan);
+  if (w.state.choiceOpen) {
+    const bool left = chooseEnd(style_, random_) == End::LeftBottom;
+    return desktop_.click(left ? w.choice.leftBottom : w.choice.rightTop);
   }
   const auto card = chooseCard(w.state, style_, random_);
   if (!card) throw std::logic_error("the player is to move and has no card that fits");
-  return desktop_.doubleClick(w.k[static_cast<std::size_t>(*card)]);
+  return desktop_.doubleClick(w.card(*card).frame);
 }
 
 }  // namespace mevracard::simulate

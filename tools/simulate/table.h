@@ -14,7 +14,7 @@ class Table {
   Table(const Request& request, std::uint64_t seed);
 
   [[nodiscard]] MainWindow& window() { return program_.window(); }
-  [[nodiscard]] bool computerIsToMove() { return window().jam.enabled; }
+  [[nodiscard]] bool computerIsToMove() { return window().timer.enabled; }
   /// The one thing to do next: an event of the player's or a tick. Throws std::logic_error if it is
   /// refused or there is none. Nothing is left to do once the game is over.
   void goOn();

@@ -19,7 +19,6 @@ struct World {
   std::deque<double> draws;  ///< the next random numbers, before the seeded ones; in [0, 1)
   std::map<std::string, std::string, std::less<>> files;
   std::set<std::string, std::less<>> unreadable, unwritable;  ///< names of files, present or not
-  bool pointerMoves = true;  ///< else the pointer's moves are drawn, which looks the same from here
 };
 
 }  // namespace mevracard

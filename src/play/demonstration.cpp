@@ -1,0 +1,132 @@
+#include "play/demonstration.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "game/grid.h"
+#include "play/ending.h"
+#include "play/placement.h"
+#include "texts/tip_text.h"
+#include "ui/colors.h"
+#include "ui/status.h"
+
+namespace mevracard {
+
+namespace {
+
+constexpr int glideInterval = 60;
+constexpr double farAway = 5000;  ///< outside the window: the pointer vanishes there
+
+/// The window's mapping to the screen where it cannot be asked: twips to pixels of 15 twips. The
+/// two divisors differ because the title and menu bars stand above the table.
+double screenX(double left) { return (left + 50) * 150 / 2230; }
+double screenY(double top) { return (top + 50) * 150 / 2050; }
+
+/// Which of a card's two numbers fits which end.
+struct Aim {
+  End end;
+  bool upper;
+};
+
+std::optional<Aim> aimOf(const GameState& s, const Card& card) {
+  for (const End end : {End::RightTop, End::LeftBottom}) {
+    if (card.upper == s.openNumber[end]) return Aim{end, true};
+    if (card.lower == s.openNumber[end]) return Aim{end, false};
+  }
+  return std::nullopt;
+}
+
+/// The number to mark on the card at an end; none on the 0-0.
+Label* markedAtEnd(MainWindow& w, End end) {
+  const int n = w.state.laidAt[end];
+  if (n == 0) return nullptr;
+  CardControls& card = w.card(w.state.endCard[end].value_or(0));
+  const Laying laying = layingOf(end, n);
+  // QUIRK-42: in the third column, from the 22nd card of the Right/Top end and the 21st of the
+  // Left/Bottom end on, the number that touches the chain is marked. One would expect the open one;
+  // the player sees the wrong half of the end card turn red. Meant.
+  const bool thirdColumn = laying.column == 2;
+  return laying.upperTouches == thirdColumn ? &card.upper : &card.lower;
+}
+
+/// Moves the pointer to a place given in pixels of 15 twips, rounded half to even.
+void movePointer(MainWindow& w, double x, double y) {
+  const auto pixel = [factor = 15.0 / w.state.twipsPerPixel](double value) {
+    constexpr float limit = 1e9F;
+    const auto scaled = static_cast<float>(value * factor);
+    return static_cast<int>(std::nearbyint(std::clamp(scaled, -limit, limit)));
+  };
+  w.desktop.movePointer(pixel(x), pixel(y));
+}
+
+/// A hand without a fitting card is aimed at whatever slot came last, which may be empty.
+bool layDemonstratedCard(MainWindow& w) {
+  GameState& s = w.state;
+  if (s.card(s.playCard).held) return layCard(w, s.playCard);
+  w.timer.disarm();
+  s.cardWasLaid = false;
+  return false;
+}
+
+void endDemonstration(MainWindow& w) {
+  GameState& s = w.state;
+  s.demo.start.x += s.demo.offset.x;
+  s.demo.start.y += s.demo.offset.y;
+  s.demo.busy = false;
+  s.tutorial.untilFirstCard = false;
+  const bool laid = layDemonstratedCard(w);
+  announce(w, Announcement::ComputersTurn);
+  const Card& card = s.card(s.playCard);
+  s.tipText = demonstratedTip(card.upper, card.lower);
+  if (laid) {
+    --s.cardsLeft[Side::Player];
+    afterPlayersCard(w);
+  }
+}
+
+}  // namespace
+
+void aimPointer(MainWindow& w) {
+  GameState& s = w.state;
+  CardControls& card = w.card(s.playCard);
+  const auto aim = aimOf(s, s.card(s.playCard));
+  Label& target = !aim || aim->upper ? card.upper : card.lower;
+  if (aim) {
+    target.backColor = selectionColour;
+    if (Label* number = markedAtEnd(w, aim->end)) number->backColor = selectionColour;
+  }
+  const auto place = placeOnScreen(w, target);
+  if (aim) {
+    const double top = aim->upper ? card.frame.top : card.frame.height / 2 + card.frame.top;
+    s.demo.offset.y = (place ? place->y : screenY(top)) - s.demo.start.y;
+  }
+  s.demo.offset.x = (place ? place->x : screenX(card.frame.left)) - s.demo.start.x;
+  s.demo.tick = 0;
+  w.timer.arm(glideInterval);
+}
+
+void demonstrate(MainWindow& w) {
+  Demonstration& demo = w.state.demo;
+  const auto [dx, dy] = demo.offset;
+  const auto [x, y] = demo.start;
+  const int i = ++demo.tick;
+  const int steps = static_cast<int>(std::sqrt(dx * dx + dy * dy) / 10);
+  if (i <= steps) {
+    movePointer(w, x + i * dx / steps, y + i * dy / steps);
+  } else if (i < steps + 3 || i == steps + 4 || i == steps + 5) {
+    movePointer(w, farAway, farAway);
+  } else if (i == steps + 3 || i == steps + 6) {
+    movePointer(w, x + dx, y + dy);
+  } else if (i == steps + 10) {
+    endDemonstration(w);
+  }
+}
+
+std::optional<PixelVector> placeOnScreen(const MainWindow& w, const Box& control) {
+  const auto pixel = w.desktop.centreOnScreen(control);
+  if (!pixel) return std::nullopt;
+  const double factor = w.state.twipsPerPixel / 15.0;
+  return PixelVector{pixel->x * factor, pixel->y * factor};
+}
+
+}  // namespace mevracard

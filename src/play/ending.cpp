@@ -1,0 +1,80 @@
+#include "play/ending.h"
+
+#include "game/scoring.h"
+#include "play/recording.h"
+#include "play/tutorial_end.h"
+#include "texts/tip_text.h"
+#include "ui/status.h"
+
+namespace mevracard {
+
+namespace {
+
+constexpr int replyDelay = 1000;
+
+/// A lost game is counted here, whoever has decided it.
+void decide(MainWindow& w, GameResult result) {
+  const bool won = result == GameResult::Won;
+  w.state.result = result;
+  w.result.verdict.caption = won ? "You win" : "You lose";
+  recordResult(w, won ? RecordMode::Won : RecordMode::Lost);
+}
+
+void playerHasWon(MainWindow& w) {
+  if (w.state.tutorial.running) endTutorial(w);
+  decide(w, GameResult::Won);
+  showSums(w);
+  w.state.tipText = tipHeading() + playerWinsTip();
+  showResult(w);
+}
+
+}  // namespace
+
+void afterPlayersCard(MainWindow& w) {
+  w.state.deadlock = false;
+  if (w.state.cardsLeft[Side::Player] == 0) {
+    playerHasWon(w);
+    return;
+  }
+  announce(w, Announcement::ComputersTurn);
+  raiseStatus(w);
+  w.timer.arm(replyDelay);
+}
+
+void computerHasWon(MainWindow& w) {
+  w.state.deadlock = false;
+  if (w.state.tutorial.running) endTutorial(w);
+  decide(w, GameResult::Lost);
+  w.state.tipText = tipHeading() + computerWinsTip();
+  showSums(w);
+  showResult(w);
+}
+
+void deadlock(MainWindow& w) {
+  GameState& s = w.state;
+  if (s.tutorial.running) endTutorial(w);
+  s.deadlock = true;
+  w.result.verdict.visible = true;  // also while a message of the record stands before it
+  showSums(w);
+  const bool won = playerWinsDeadlock(leftover(s, Side::Player), leftover(s, Side::Computer));
+  decide(w, won ? GameResult::Won : GameResult::Lost);
+  s.tipText = tipHeading() + deadlockTip();
+  showResult(w);
+}
+
+void showSums(MainWindow& w) {
+  w.result.yourSum.caption = std::to_string(leftover(w.state, Side::Player).sum);
+  w.result.computersSum.caption = std::to_string(leftover(w.state, Side::Computer).sum);
+}
+
+void showResult(MainWindow& w) {
+  w.state.gameOver = true;
+  w.discard.visible = false;
+  w.status.visible = false;
+  w.result.show(true);
+  for (const int slot : handOf(Side::Computer)) {
+    if (w.state.card(slot).held) w.card(slot).uncover();
+  }
+}
+
+}  // namespace mevracard

@@ -1,0 +1,29 @@
+#include "play/game_menu.h"
+
+#include "play/new_game.h"
+#include "play/recording.h"
+#include "texts/messages.h"
+
+namespace mevracard {
+
+namespace {
+
+void countAbortedGame(MainWindow& w) {
+  if (w.state.gameOver) return;
+  w.say(abortMessage);
+  recordResult(w, RecordMode::Lost);
+}
+
+}  // namespace
+
+void chooseNewGame(MainWindow& w) {
+  countAbortedGame(w);
+  startAnotherGame(w);
+}
+
+void chooseExit(MainWindow& w) {
+  countAbortedGame(w);
+  w.desktop.end();
+}
+
+}  // namespace mevracard

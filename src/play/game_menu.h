@@ -1,0 +1,12 @@
+#pragma once
+
+#include "ui/main_window.h"
+
+namespace mevracard {
+
+/// Menu New Game: a running game is told and recorded as lost, then a new one is dealt.
+void chooseNewGame(MainWindow& w);
+/// Menu Exit, and the close box of the main window: the same record, then the program ends.
+void chooseExit(MainWindow& w);
+
+}  // namespace mevracard

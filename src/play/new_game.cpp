@@ -1,0 +1,138 @@
+#include "play/new_game.h"
+
+#include "game/deal.h"
+#include "game/rules.h"
+#include "play/opening.h"
+#include "play/passing.h"
+#include "play/placement.h"
+#include "play/saved_settings.h"
+#include "play/screen_scale.h"
+#include "play/tutorial_end.h"
+#include "texts/messages.h"
+#include "ui/choice.h"
+#include "ui/colors.h"
+
+namespace mevracard {
+
+namespace {
+
+constexpr int replyDelay = 1000;
+
+/// Nothing that the game before had under way may reach the new one.
+void dropGameBefore(MainWindow& w) {
+  GameState& s = w.state;
+  w.timer.disarm();
+  closeChoice(w);
+  s.playerAimsLeftBottom = false;
+  s.computerAimsLeftBottom = false;
+  s.computerPassed = false;
+  s.bannedNumber = s.danger = s.secondDanger = noNumber;
+}
+
+/// QUIRK-08: the seed is the year and the sum of minute and second, nothing else: a year has at
+/// most 118 different deals. One would expect a new deal every time; a player who comes back at a
+/// minute and second of the same sum meets the same hands. Meant.
+void seedRandom(MainWindow& w) {
+  const ClockTime time = w.desktop.clock();
+  w.state.dealSeed = dealSeedOf(w.desktop.shortDate(), time.minute, time.second);
+  w.desktop.seedRandom(w.state.dealSeed);
+}
+
+void clearTable(MainWindow& w, double scale) {
+  GameState& s = w.state;
+  s.deadlock = false;
+  w.result.show(false);
+  s.laidAt = {};
+  s.openings = 0;
+  s.cardsLeft = {{handSize, handSize}};
+  s.passes = {};
+  for (std::size_t i = 0; i < w.table.markers.size(); ++i) {
+    putAt(w.table.markers[i], markerPark(i), scale);
+  }
+}
+
+void layOutHands(MainWindow& w, double scale) {
+  const Deck deck =
+      w.stackedDeck ? *w.stackedDeck : shuffledDeck([&w] { return w.desktop.random(); });
+  for (const int slot : allSlots) {
+    const auto [upper, lower] = deck[static_cast<std::size_t>(slot)];
+    w.state.card(slot) = {upper, lower, true};
+    putAt(w.card(slot).frame, handPlace(slot), scale);
+    w.card(slot).paintNumbers(handColour);
+  }
+}
+
+/// Face up at player level 1, face down at level 2.
+void coverComputersHand(MainWindow& w) {
+  for (const int slot : handOf(Side::Computer)) {
+    if (w.state.playerLevel == 1) {
+      w.card(slot).uncover();
+    } else {
+      w.card(slot).cover();
+    }
+  }
+}
+
+void showCards(MainWindow& w, bool visible) {
+  for (CardControls& card : w.cards) card.frame.visible = visible;
+}
+
+/// The six other cards with a 0 are all the computer's: there is nothing to move.
+void passOpening(MainWindow& w) {
+  w.timer.disarm();
+  if (w.state.tutorial.running) {
+    // Else the tick after its OK would take the opening for a demonstrated move.
+    w.state.demo.done = false;
+    giveUpDemonstration(w);
+  }
+  announcePlayersPass(w);
+}
+
+/// A screen that has changed since the table was sized changes the table with it.
+void takeScreenMetrics(MainWindow& w) {
+  const int before = w.state.screenHeight;
+  const int now = w.desktop.screenHeight();
+  w.state.screenHeight = now;
+  w.state.twipsPerPixel = w.desktop.twipsPerPixel();
+  const bool sized = w.state.newGameAsked && before > 0;
+  if (sized && now != before) rescaleTable(w, static_cast<double>(now) / before);
+}
+
+}  // namespace
+
+void startGame(MainWindow& w) {
+  takeScreenMetrics(w);
+  w.state.gameOver = false;
+  w.discard.visible = true;
+  w.desktop.show(w.form);
+  showCards(w, false);
+  loadSettings(w);
+  deal(w);
+}
+
+void startAnotherGame(MainWindow& w) {
+  w.state.newGameAsked = true;
+  startGame(w);
+}
+
+void deal(MainWindow& w) {
+  GameState& s = w.state;
+  dropGameBefore(w);
+  const bool firstDeal = !s.newGameAsked;
+  const double scale = firstDeal ? 1.0 : w.scaleFactor();
+  seedRandom(w);
+  clearTable(w, scale);
+  layOutHands(w, scale);
+  if (firstDeal) rescaleTable(w, w.scaleFactor());
+  coverComputersHand(w);
+  w.say(openingMessage);
+  showCards(w, true);
+  openWithDoubleZero(w);
+  if (s.cardWasLaid) {
+    w.timer.arm(replyDelay);
+  } else if (mustPass(s, Side::Player)) {
+    passOpening(w);
+  }
+}
+
+}  // namespace mevracard

@@ -1,0 +1,74 @@
+#include "play/opening.h"
+
+#include "play/placement.h"
+#include "play/tips.h"
+#include "texts/tip_text.h"
+#include "ui/colors.h"
+#include "ui/status.h"
+
+namespace mevracard {
+
+namespace {
+
+constexpr int firstStepDelay = 1000;  ///< of the tutorial
+
+std::optional<int> slotOfDoubleZero(const GameState& s) {
+  for (const int slot : allSlots) {
+    if (s.card(slot).isDouble() && s.card(slot).bears(0)) return slot;
+  }
+  return std::nullopt;
+}
+
+void layDoubleZero(MainWindow& w, int slot) {
+  GameState& s = w.state;
+  s.playCard = slot;
+  // QUIRK-04: it glides towards the place of the last card of the game before, and not at all when
+  // the player's hand fits none of that game's last numbers. One would expect a glide to the
+  // centre; the player sees the 0-0 jump there from elsewhere. Meant.
+  glideCard(w);
+  putAt(w.card(slot).frame, chainPlace(End::RightTop, openingPosition, 0), w.scaleFactor());
+  w.card(slot).paintNumbers(handColour);
+  w.card(slot).uncover();
+  s.endCard = {{slot, slot}};
+  s.openNumber = {{0, 0}};
+  s.card(slot).held = false;
+  ++s.openings;
+}
+
+void giveTurnToPlayer(MainWindow& w) {
+  w.state.cardsLeft[Side::Computer] = handSize - 1;
+  w.state.cardWasLaid = false;
+  announce(w, Announcement::YourTurn);
+  appendGeneralTip(w);
+  raiseStatus(w);
+}
+
+void giveTurnToComputer(MainWindow& w) {
+  w.state.cardsLeft[Side::Player] = handSize - 1;
+  w.state.cardWasLaid = true;
+  announce(w, Announcement::ComputersTurn);
+  w.state.tutorial.computerWaitsForNext = false;
+  w.state.tutorial.nextIsComputers = false;
+  raiseStatus(w);
+  w.state.tipText += openingAnsweredTip();
+}
+
+}  // namespace
+
+void openWithDoubleZero(MainWindow& w) {
+  GameState& s = w.state;
+  s.demo.done = true;
+  s.tipText = tipHeading() + openingTip();
+  const auto slot = slotOfDoubleZero(s);
+  if (slot) layDoubleZero(w, *slot);
+  w.form.giveFocus(w.discard);
+  if (slot && ownerOf(*slot) == Side::Computer) {
+    giveTurnToPlayer(w);
+  } else {
+    giveTurnToComputer(w);
+  }
+  s.selectedCard = noSelection;
+  if (s.tutorial.untilFirstCard) w.timer.arm(firstStepDelay);
+}
+
+}  // namespace mevracard

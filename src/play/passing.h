@@ -1,0 +1,19 @@
+#pragma once
+
+#include "ui/main_window.h"
+
+namespace mevracard {
+
+/// The computer cannot move but the player can: announces it and closes the computer's turn.
+void announceComputersPass(MainWindow& w);
+
+/// The player cannot move but the computer can: opens the tips with the pass tip and an OK button
+/// and disables the main window until it is pressed.
+void announcePlayersPass(MainWindow& w);
+/// OK of the tips window after a pass of the player: the computer moves again after 2000 ms.
+void acknowledgePass(MainWindow& w);
+
+/// Closes every turn of the computer: ends the game if it has no card left, else refreshes the tip.
+void closeComputersTurn(MainWindow& w);
+
+}  // namespace mevracard

@@ -1,0 +1,131 @@
+#include "play/player_input.h"
+
+#include "game/rules.h"
+#include "play/ending.h"
+#include "play/new_game.h"
+#include "play/placement.h"
+#include "play/size_panel.h"
+#include "play/tips.h"
+#include "texts/tip_text.h"
+#include "ui/choice.h"
+#include "ui/colors.h"
+#include "ui/status.h"
+
+namespace mevracard {
+
+namespace {
+
+/// During the tutorial the player's cards are played by NEXT alone; after the end by nobody, also
+/// when a new table size has shown the Discard button again: that it shows is a rule of its own.
+bool gameTakesCards(const MainWindow& w) {
+  return w.discard.visible && !w.state.gameOver && !w.state.tutorial.running;
+}
+
+/// A card on the table is never played again, so the choice is for held ones only.
+bool offersChoice(const GameState& s, int card) {
+  return s.card(card).held && makesSameNumber(s, card);
+}
+
+/// What the player does at the table presses the panel's OK first.
+void closePanelIfOpen(MainWindow& w) {
+  if (!w.state.sizePanelOpen) return;
+  try {
+    closeSizePanel(w);
+  } catch (const PlatformError& error) {
+    w.report(error.what());
+  }
+}
+
+/// QUIRK-39: a refused card keeps its red numbers although it is no longer selected. One would
+/// expect them to go; the player may see two red cards after the next 'p'. Meant.
+/// A reply that was due stays due, else a player who cannot move would wait
+/// for ever; and the choice must not go on with the refused card.
+void refuseCard(MainWindow& w, bool replyWasDue) {
+  if (replyWasDue) w.timer.goOn();
+  if (!w.state.choiceOpen) return;
+  closeChoice(w);
+  announce(w, replyWasDue ? Announcement::ComputersTurn : Announcement::YourTurn);
+}
+
+/// QUIRK-36: takes a card also while the computer's reply is due. One would expect the player to
+/// wait; several cards laid in time meet one reply, a second after the last of them. Meant.
+void laySelectedCard(MainWindow& w) {
+  GameState& s = w.state;
+  const int card = s.selectedCard;
+  if (!s.card(card).held) return;
+  s.selectedCard = noSelection;
+  const bool replyWasDue = w.timer.enabled;
+  if (layCard(w, card)) {
+    --s.cardsLeft[Side::Player];
+    afterPlayersCard(w);
+  } else {
+    refuseCard(w, replyWasDue);
+  }
+}
+
+/// QUIRK-13: looks at twelve places after the current one, and from no selection starts at card 2.
+/// One would expect all fourteen in turn; the player reaches cards 0 and 1 only on the second
+/// round, and with one card left every other press selects an empty place. Meant.
+int nextSelection(const GameState& s) {
+  const int current = s.selectedCard;
+  int card = current;
+  for (int j = current + 1; j <= current + 12; ++j) {
+    card = j >= handSize ? j - handSize : j;
+    if (s.card(card).held) break;
+  }
+  return card;
+}
+
+}  // namespace
+
+void doubleClickCard(MainWindow& w, int card) {
+  GameState& s = w.state;
+  if (s.tutorial.running) return;
+  // QUIRK-19: every double-click resets the tip, also one that does nothing else, as on a card of
+  // the computer's or after the end. The player's tip then is a bare heading. Meant.
+  resetTip(w);
+  if (!gameTakesCards(w) || ownerOf(card) == Side::Computer) return;
+  s.selectedCard = card;
+  // QUIRK-14: the last card is laid without the choice, while 'p' opens it for the last card too.
+  // One would expect the same of both. Meant.
+  if (s.cardsLeft[Side::Player] > 1 && offersChoice(s, card)) {
+    openChoice(w, card);
+    s.tipText += sameNumberTip(s.openNumber[End::RightTop], s.openNumber[End::LeftBottom]);
+  } else {
+    pressDiscard(w);
+  }
+  for (const int slot : handOf(Side::Player)) w.card(slot).paintNumbers(handColour);
+  s.selectedCard = noSelection;
+}
+
+void pressKeyOnDiscard(MainWindow& w, int key) {
+  closePanelIfOpen(w);
+  if ((key != 'p' && key != 'P') || !gameTakesCards(w)) return;
+  GameState& s = w.state;
+  w.card(s.selectedCard).paintNumbers(handColour);
+  s.selectedCard = nextSelection(s);
+  w.card(s.selectedCard).paintNumbers(selectionColour);
+  if (offersChoice(s, s.selectedCard)) openChoice(w, s.selectedCard);
+}
+
+void pressDiscard(MainWindow& w) {
+  GameState& s = w.state;
+  closePanelIfOpen(w);
+  if (s.selectedCard != noSelection && gameTakesCards(w)) {
+    // QUIRK-17: without the exclamation mark, so that the open choice does not take this way. One
+    // would expect its text; Discard lays the selected card also while the choice is open. Meant.
+    // Here the texts that the player sees are the rule: that of the status line, and "Begin".
+    if (w.status.visible && w.status.caption == "'Mevra'   Choose One") {
+      w.status.visible = false;
+      w.choice.hideArrows();
+      s.playCard = s.selectedCard;
+    } else if (w.discard.caption != "Begin") {
+      laySelectedCard(w);
+    } else {
+      startGame(w);
+    }
+  }
+  s.cardWasLaid = false;
+}
+
+}  // namespace mevracard

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "ui/main_window.h"
+
+namespace mevracard {
+
+/// The buttons of the choice: lay `playCard` at the Left/Bottom end, so that both ends show the
+/// first active number; or at the Right/Top end, so that both show the second.
+void chooseLeftBottom(MainWindow& w);
+void chooseRightTop(MainWindow& w);
+/// Cancel: the card stays in the hand.
+void cancelChoice(MainWindow& w);
+/// A key during the choice: Esc cancels, the digit of an active number presses its button.
+void pressKeyOfChoice(MainWindow& w, int key);
+
+}  // namespace mevracard

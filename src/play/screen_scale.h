@@ -1,0 +1,20 @@
+#pragma once
+
+#include "ui/main_window.h"
+
+namespace mevracard {
+
+/// Multiplies the place, size, font size and border width of the table's controls by `factor` and
+/// shows the table. Which controls: the tables in the source. Positions and font sizes are rounded
+/// to single precision, border widths to whole pixels, half to even.
+void rescaleTable(MainWindow& w, double factor);
+
+/// The player moved the scroll bar to a new screen size: rescales the table relative to the size
+/// before.
+void scrollScreenSize(MainWindow& w, int screenValue);
+
+/// A screen size (70 to 99) from the settings file: into the scroll bar and, once the table has
+/// been scaled by a first deal, onto the table.
+void takeScreenValue(MainWindow& w, int screenValue);
+
+}  // namespace mevracard

@@ -1,0 +1,24 @@
+#include "play/size_panel.h"
+
+#include "play/saved_settings.h"
+
+namespace mevracard {
+
+void openSizePanel(MainWindow& w) {
+  w.state.sizePanelOpen = true;
+  w.sizePanel.show(true);
+  w.menu.howToPlay.enabled = false;
+  w.form.sendToBack(w.status);
+}
+
+void closeSizePanel(MainWindow& w) {
+  w.state.sizePanelOpen = false;
+  w.sizePanel.show(false);
+  w.menu.howToPlay.enabled = true;
+  // QUIRK-37: a size takes effect at once but is saved when the panel closes, or along with a
+  // level. One would expect it to last; with the panel left open the next start shows the old size.
+  // Meant.
+  saveSettings(w);
+}
+
+}  // namespace mevracard

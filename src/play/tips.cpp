@@ -1,0 +1,31 @@
+#include "play/tips.h"
+
+#include "texts/tip_text.h"
+
+namespace mevracard {
+
+namespace {
+
+constexpr std::string_view windowHeading =
+    "TIPS OF GAME  (The content of help below changes according to the situation)";
+
+}  // namespace
+
+void resetTip(MainWindow& w) { w.state.tipText = tipHeading(); }
+
+void appendGeneralTip(MainWindow& w) {
+  GameState& s = w.state;
+  // QUIRK-15: nothing is reset here, so with the keyboard alone the tip grows turn by turn. One
+  // would expect the last turn's tip only; the player reads the earlier ones above it. Meant.
+  s.tipText += generalTip(s.openNumber[End::RightTop], s.openNumber[End::LeftBottom]);
+}
+
+void showTips(MainWindow& w) {
+  w.desktop.show(w.about.form);
+  w.about.form.caption = "Tips of Game";
+  w.about.heading.caption = windowHeading;
+  w.about.tip.visible = true;
+  w.about.tip.caption = w.state.tipText;
+}
+
+}  // namespace mevracard
