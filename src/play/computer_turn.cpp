@@ -2,11 +2,11 @@
 
 #include "ai/selection.h"
 #include "game/rules.h"
+#include "play/choice.h"
 #include "play/ending.h"
 #include "play/passing.h"
 #include "play/placement.h"
-#include "ui/choice.h"
-#include "ui/status.h"
+#include "play/status.h"
 
 namespace mevracard {
 

@@ -6,9 +6,9 @@
 #include "game/grid.h"
 #include "play/ending.h"
 #include "play/placement.h"
+#include "play/status.h"
 #include "texts/tip_text.h"
 #include "ui/colors.h"
-#include "ui/status.h"
 
 namespace mevracard {
 

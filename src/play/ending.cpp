@@ -2,9 +2,9 @@
 
 #include "game/scoring.h"
 #include "play/recording.h"
+#include "play/status.h"
 #include "play/tutorial_end.h"
 #include "texts/tip_text.h"
-#include "ui/status.h"
 
 namespace mevracard {
 

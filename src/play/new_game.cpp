@@ -2,6 +2,7 @@
 
 #include "game/deal.h"
 #include "game/rules.h"
+#include "play/choice.h"
 #include "play/opening.h"
 #include "play/passing.h"
 #include "play/placement.h"
@@ -9,7 +10,6 @@
 #include "play/screen_scale.h"
 #include "play/tutorial_end.h"
 #include "texts/messages.h"
-#include "ui/choice.h"
 #include "ui/colors.h"
 
 namespace mevracard {

@@ -1,10 +1,10 @@
 #include "play/opening.h"
 
 #include "play/placement.h"
+#include "play/status.h"
 #include "play/tips.h"
 #include "texts/tip_text.h"
 #include "ui/colors.h"
-#include "ui/status.h"
 
 namespace mevracard {
 

@@ -2,11 +2,11 @@
 
 #include "game/rules.h"
 #include "play/ending.h"
+#include "play/status.h"
 #include "play/tips.h"
 #include "texts/messages.h"
 #include "texts/tip_text.h"
 #include "ui/colors.h"
-#include "ui/status.h"
 
 namespace mevracard {
 

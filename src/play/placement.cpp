@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "game/rules.h"
-#include "ui/choice.h"
+#include "play/choice.h"
 #include "ui/colors.h"
 
 namespace mevracard {

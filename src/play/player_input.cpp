@@ -1,15 +1,15 @@
 #include "play/player_input.h"
 
 #include "game/rules.h"
+#include "play/choice.h"
 #include "play/ending.h"
 #include "play/new_game.h"
 #include "play/placement.h"
 #include "play/size_panel.h"
+#include "play/status.h"
 #include "play/tips.h"
 #include "texts/tip_text.h"
-#include "ui/choice.h"
 #include "ui/colors.h"
-#include "ui/status.h"
 
 namespace mevracard {
 

@@ -1,11 +1,11 @@
 #include "play/same_number_choice.h"
 
 #include "platform/event.h"
+#include "play/choice.h"
 #include "play/ending.h"
 #include "play/placement.h"
+#include "play/status.h"
 #include "play/tips.h"
-#include "ui/choice.h"
-#include "ui/status.h"
 
 namespace mevracard {
 

@@ -2,7 +2,7 @@
 
 #include "play/computer_turn.h"
 #include "play/demonstration.h"
-#include "ui/status.h"
+#include "play/status.h"
 
 namespace mevracard {
 

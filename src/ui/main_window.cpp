@@ -6,7 +6,11 @@ namespace mevracard {
 
 namespace {
 
-void showNumber(Label& label, int number) { label.caption = std::to_string(number); }
+void showNumber(Label& label, int number) {
+  // Nearly every number is a digit that already stands there, which then costs next to nothing.
+  const bool stands = label.caption.size() == 1 && label.caption[0] == '0' + number;
+  if (!stands) label.caption = std::to_string(number);
+}
 
 }  // namespace
 

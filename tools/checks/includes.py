@@ -14,7 +14,7 @@ KNOWS = {
     "texts": "",
     "store": "game",
     "ai": "game",
-    "ui": "platform game texts",
+    "ui": "platform game",
     "play": "platform game texts store ai ui",
     "app": "platform game texts store ai ui play",
 }

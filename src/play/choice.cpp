@@ -1,6 +1,6 @@
-#include "ui/choice.h"
+#include "play/choice.h"
 
-#include "ui/status.h"
+#include "play/status.h"
 
 namespace mevracard {
 

@@ -1,4 +1,4 @@
-#include "ui/status.h"
+#include "play/status.h"
 
 #include "texts/messages.h"
 
