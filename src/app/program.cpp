@@ -1,6 +1,7 @@
 #include "app/program.h"
 
 #include <array>
+#include <functional>
 
 #include "ai/passing.h"
 #include "flow/game_menu.h"
@@ -85,6 +86,7 @@ constexpr std::array eventTable{
     Row{EventKind::Close, "mevraku", exit_Click},
     Row{EventKind::Close, "authormevra", authormevra_Close},
     Row{EventKind::Close, "kalahmenang", closeStatistics},
+    Row{EventKind::SystemEnd, "mevraku", endBySystem},
 };
 
 std::string_view nameOf(const Event& event) {
@@ -132,21 +134,23 @@ Program::Program(Desktop& desktop) : window_(desktop) {
 }
 
 void Program::start() {
-  try {
-    Form_Load(window_);
-  } catch (const std::exception& error) {
-    window_.report(error.what());
-  }
-  window_.present();
+  run([this] { Form_Load(window_); });
 }
 
 void Program::handle(const Event& event) {
+  run([this, &event] { dispatch(window_, event); });
+}
+
+void Program::run(const std::function<void()>& step) {
   try {
-    dispatch(window_, event);
-  } catch (const std::exception& error) {
-    window_.report(error.what());
+    try {
+      step();
+    } catch (const std::exception& error) {
+      window_.report(error.what());
+    }
+    window_.present();
+  } catch (const EndedBySystem&) {  // NOLINT(bugprone-empty-catch): an event of its own follows
   }
-  window_.present();
 }
 
 }  // namespace mevracard

@@ -7,8 +7,10 @@ namespace mevracard {
 
 namespace {
 
+bool gameIsRunning(const MainWindow& w) { return w.state.theend == 0; }
+
 void countAbortedGame(MainWindow& w) {
-  if (w.state.theend != 0) return;
+  if (!gameIsRunning(w)) return;
   w.say("Aborting makes you lose this game");
   recordResult(w, RecordMode::Lost);
 }
@@ -23,6 +25,12 @@ void rg_Click(MainWindow& w) {
 
 void exit_Click(MainWindow& w) {
   countAbortedGame(w);
+  w.desktop.end();
+}
+
+void endBySystem(MainWindow& w) {
+  // A loss like any other, but nobody is there to be told.
+  if (gameIsRunning(w)) recordResult(w, RecordMode::Lost);
   w.desktop.end();
 }
 

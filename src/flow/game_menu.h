@@ -8,5 +8,7 @@ namespace mevracard {
 void rg_Click(MainWindow& w);
 /// Menu Exit, and the close box of the main window: the same record, then the program ends.
 void exit_Click(MainWindow& w);
+/// The system ends the program: the same without a word.
+void endBySystem(MainWindow& w);
 
 }  // namespace mevracard

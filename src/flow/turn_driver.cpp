@@ -1,6 +1,5 @@
 #include "flow/turn_driver.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "ai/komputer.h"
@@ -11,6 +10,12 @@
 namespace mevracard {
 
 namespace {
+
+/// Drawn in to where it still counts in whole numbers: a script may ask for any distance.
+int wholeNumber(double value) {
+  constexpr double limit = 1e9;
+  return static_cast<int>(std::fmin(std::fmax(value, -limit), limit));
+}
 
 constexpr double farAway = 5000;  ///< outside the window: the pointer vanishes there
 
@@ -48,7 +53,7 @@ void demonstrate(MainWindow& w) {
   GameState& s = w.state;
   const double dx = s.n1, dy = s.n2, x0 = s.n3, y0 = s.n4;
   const int i = ++s.demoTick;
-  const int steps = static_cast<int>(std::sqrt(dx * dx + dy * dy) / 10);
+  const int steps = wholeNumber(std::sqrt(dx * dx + dy * dy) / 10);
   if (i <= steps) {
     point(w, x0 + i * dx / steps, y0 + i * dy / steps);
   } else if (i < steps + 3 || i == steps + 4 || i == steps + 5) {
@@ -63,11 +68,7 @@ void demonstrate(MainWindow& w) {
 }  // namespace
 
 void MoveMouse(MainWindow& w, float x, float y) {
-  const auto pixel = [](float value) {
-    constexpr float limit = 1e9F;
-    return static_cast<int>(std::nearbyint(std::clamp(value, -limit, limit)));
-  };
-  w.desktop.movePointer(pixel(x), pixel(y));
+  w.desktop.movePointer(wholeNumber(std::nearbyint(x)), wholeNumber(std::nearbyint(y)));
 }
 
 void jam_Timer(MainWindow& w) {

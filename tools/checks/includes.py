@@ -21,7 +21,7 @@ PURE = {
     "store/statistics",
 }
 DESKTOPS = ("platform/qt/", "platform/headless/")
-TOOLKIT_ALLOWED = ("src/platform/qt/", "tests/desktop/", "bench/desktop/")
+TOOLKIT_ALLOWED = ("src/platform/qt/", "tests/desktop/", "tests/files/", "bench/desktop/")
 INCLUDE = re.compile(r'\s*#\s*include\s*([<"])([^>"]+)')
 
 
