@@ -1,6 +1,7 @@
 #include "app/program.h"
 
 #include <array>
+#include <functional>
 
 #include "play/about.h"
 #include "play/game_menu.h"
@@ -79,6 +80,7 @@ constexpr std::array eventTable{
     Row{EventKind::Close, "mevraku", step<chooseExit>},
     Row{EventKind::Close, "authormevra", step<closeAbout>},
     Row{EventKind::Close, "kalahmenang", step<closeStatistics>},
+    Row{EventKind::SystemEnd, "mevraku", step<endBySystem>},
 };
 
 std::string_view nameOf(const Event& event) {
@@ -127,21 +129,23 @@ Program::Program(Desktop& desktop) : window_(desktop) {
 }
 
 void Program::start() {
-  try {
-    startGame(window_);
-  } catch (const std::exception& error) {
-    window_.report(error.what());
-  }
-  window_.present();
+  run([this] { startGame(window_); });
 }
 
 void Program::handle(const Event& event) {
+  run([this, &event] { dispatch(window_, event); });
+}
+
+void Program::run(const std::function<void()>& doing) {
   try {
-    dispatch(window_, event);
-  } catch (const std::exception& error) {
-    window_.report(error.what());
+    try {
+      doing();
+    } catch (const std::exception& error) {
+      window_.report(error.what());
+    }
+    window_.present();
+  } catch (const EndedBySystem&) {  // NOLINT(bugprone-empty-catch): an event of its own follows
   }
-  window_.present();
 }
 
 }  // namespace mevracard

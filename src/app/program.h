@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "ui/main_window.h"
 
 namespace mevracard {
@@ -19,6 +21,8 @@ class Program {
   [[nodiscard]] MainWindow& window() { return window_; }
 
  private:
+  void run(const std::function<void()>& doing);
+
   MainWindow window_;
 };
 

@@ -17,6 +17,10 @@ struct PlatformError : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+/// Thrown out of a box that the system's end of the program has closed: what the handler was at is
+/// given up, and a SystemEnd event follows.
+struct EndedBySystem {};
+
 struct ClockTime {
   int minute = 0, second = 0;
 };
@@ -48,7 +52,8 @@ class Desktop {
   virtual void show(Form& form) = 0;
   virtual void hide(Form& form) = 0;
   /// A modal box with an OK button and the program's name as title; blocks until it is closed.
-  /// No event, tick included, reaches the handler meanwhile.
+  /// No event, tick included, reaches the handler meanwhile. Throws EndedBySystem if the system
+  /// ends the program meanwhile; from then on no box opens.
   virtual void messageBox(std::string_view text) = 0;
   /// Tells the player of an error, in a box like the one above.
   virtual void reportError(std::string_view text) = 0;

@@ -12,7 +12,8 @@ enum class EventKind {
   Scroll,       ///< the player moved a scroll bar to `value`
   Menu,         ///< `entry` was chosen
   Tick,         ///< the window's timer fired
-  Close,        ///< the close box, or the system closing the window
+  Close,        ///< the close box of a window
+  SystemEnd,    ///< the system ends the program: of the main window, whatever disables it
 };
 
 constexpr int keyEnter = 13;
@@ -23,7 +24,7 @@ constexpr int keySpace = 32;
 struct Event {
   EventKind kind = EventKind::Click;
   Form* form = nullptr;
-  Control* control = nullptr;  ///< null for Menu, Tick and Close
+  Control* control = nullptr;  ///< null for Menu, Tick, Close and SystemEnd
   MenuEntry* entry = nullptr;
   int value = 0;
 };

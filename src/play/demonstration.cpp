@@ -1,6 +1,5 @@
 #include "play/demonstration.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "game/grid.h"
@@ -49,12 +48,16 @@ Label* markedAtEnd(MainWindow& w, End end) {
   return laying.upperTouches == thirdColumn ? &card.upper : &card.lower;
 }
 
+/// Drawn in to where it still counts in whole numbers: a script may ask for any distance.
+int wholeNumber(double value) {
+  constexpr double limit = 1e9;
+  return static_cast<int>(std::fmin(std::fmax(value, -limit), limit));
+}
+
 /// Moves the pointer to a place given in pixels of 15 twips, rounded half to even.
 void movePointer(MainWindow& w, double x, double y) {
   const auto pixel = [factor = 15.0 / w.state.twipsPerPixel](double value) {
-    constexpr float limit = 1e9F;
-    const auto scaled = static_cast<float>(value * factor);
-    return static_cast<int>(std::nearbyint(std::clamp(scaled, -limit, limit)));
+    return wholeNumber(std::nearbyint(static_cast<float>(value * factor)));
   };
   w.desktop.movePointer(pixel(x), pixel(y));
 }
@@ -110,7 +113,7 @@ void demonstrate(MainWindow& w) {
   const auto [dx, dy] = demo.offset;
   const auto [x, y] = demo.start;
   const int i = ++demo.tick;
-  const int steps = static_cast<int>(std::sqrt(dx * dx + dy * dy) / 10);
+  const int steps = wholeNumber(std::sqrt(dx * dx + dy * dy) / 10);
   if (i <= steps) {
     movePointer(w, x + i * dx / steps, y + i * dy / steps);
   } else if (i < steps + 3 || i == steps + 4 || i == steps + 5) {

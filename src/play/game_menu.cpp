@@ -26,4 +26,10 @@ void chooseExit(MainWindow& w) {
   w.desktop.end();
 }
 
+void endBySystem(MainWindow& w) {
+  // A loss like any other, but nobody is there to be told.
+  if (!w.state.gameOver) recordResult(w, RecordMode::Lost);
+  w.desktop.end();
+}
+
 }  // namespace mevracard

@@ -8,5 +8,7 @@ namespace mevracard {
 void chooseNewGame(MainWindow& w);
 /// Menu Exit, and the close box of the main window: the same record, then the program ends.
 void chooseExit(MainWindow& w);
+/// The system ends the program: the same without a word.
+void endBySystem(MainWindow& w);
 
 }  // namespace mevracard

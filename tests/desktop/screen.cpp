@@ -39,7 +39,7 @@ Screen::Screen(int seed, const char* settings)
 
 void Screen::closeMessageBox() {
   auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-  if (box == nullptr || !box->isActiveWindow()) return;
+  if (!answersBoxes || box == nullptr || !box->isActiveWindow()) return;
   messages.push_back(box->text().toStdString());
   QTest::keyClick(box, Qt::Key_Return);
 }

@@ -53,6 +53,7 @@ class Screen {
   [[nodiscard]] static QPoint pointer();
 
   std::vector<std::string> messages;
+  bool answersBoxes = true;
 
  private:
   void closeMessageBox();

@@ -1,14 +1,18 @@
 // Menus, the other windows, the screen size and covered cards, as they stand on the screen.
 #include <QAccessible>
+#include <QApplication>
 #include <QPixmap>
 #include <QRegularExpression>
 #include <QScreen>
 #include <QScrollBar>
+#include <csignal>
 
 #include <QtTest/QTest>
 #include <gtest/gtest.h>
 
+#include "play/passing.h"
 #include "screen.h"
+#include "store/statistics.h"
 #include "texts/tip_text.h"
 
 namespace mevracard {
@@ -98,6 +102,62 @@ TEST(Tips, CloseBoxAfterAPassCountsAsOk) {
   ASSERT_TRUE(screen.waitFor([&] { return w.form.enabled; }));
   EXPECT_EQ(w.state.passes[Side::Player], 1);
   ASSERT_TRUE(screen.waitFor([&] { return cardsLaid(w.state) > 0; }));
+}
+
+// An open menu must not keep the keyboard from what the game opens over it.
+TEST(Menus, GiveWayToWindowsAndBoxes) {
+  Screen screen;
+  screen.start();
+  MainWindow& w = screen.window();
+  ASSERT_TRUE(screen.waitFor([&] { return !w.timer.enabled; }));
+  chooseFromMenu(screen, {"alt+f"});
+  ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+  announcePlayersPass(w);
+  w.present();
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+  ASSERT_TRUE(screen.waitFor([&] { return screen.widget(w.about.ok).hasFocus(); }));
+  screen.key("Return");
+  ASSERT_TRUE(screen.waitFor([&] { return !w.about.form.visible; }));
+  chooseFromMenu(screen, {"alt+h"});
+  ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+  ASSERT_TRUE(screen.waitFor([&] { return screen.messages.size() == 1; }));
+  w.say("over a menu");
+  EXPECT_EQ(screen.messages.back(), "over a menu");
+}
+
+/// Sends what the toolkit sends when the session is over.
+void endSession() {
+  QEvent over(QEvent::Quit);
+  QCoreApplication::sendEvent(qApp, &over);
+}
+
+/// The toolkit opens no box any more after the end of a program, until its loop has run anew.
+void beginAnew() {
+  QTimer::singleShot(0, [] { QCoreApplication::exit(); });
+  QApplication::exec();
+}
+
+// The end of the session or of the system finds a box, a popup or a menu open: the game is lost
+// once, nothing is asked, and the program ends.
+TEST(SystemEnd, CountsARunningGameOnceWhateverIsOpen) {
+  const std::initializer_list<std::initializer_list<const char*>> ways{
+      {}, {"alt+f"}, {"alt+f", "s"}, {"alt+f", "n"}, {"alt+F4"}};
+  bool bySignal = false;
+  for (const auto& keys : ways) {
+    Screen screen;
+    screen.start();
+    MainWindow& w = screen.window();
+    ASSERT_TRUE(screen.waitFor([&] { return !w.timer.enabled; }));
+    screen.answersBoxes = false;
+    const std::string before = w.desktop.readFile(statisticsFile);
+    QTimer::singleShot(800, [&] { bySignal ? (void)std::raise(SIGHUP) : endSession(); });
+    chooseFromMenu(screen, keys);
+    ASSERT_TRUE(screen.waitFor([&] { return !screen.mainWidget().isVisible(); }));
+    EXPECT_EQ(w.desktop.readFile(statisticsFile), updatedRecord(before, RecordMode::Lost).text);
+    EXPECT_EQ(screen.messages.size(), 1U);
+    beginAnew();
+    bySignal = !bySignal;
+  }
 }
 
 // A covered card must give nothing away, neither to the eye nor to a screen reader.

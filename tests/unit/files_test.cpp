@@ -134,5 +134,26 @@ TEST(DataFiles, OddOnesNeverStopAStart) {
   }
 }
 
+// A session's end counts a running game as lost, once and without a word; one that is over counts
+// no more.
+TEST(SystemEnd, IsALossOfARunningGame) {
+  for (const bool over : {false, true}) {
+    int messages = 0;
+    HeadlessDesktop desktop(
+        [&](std::string_view line) { messages += line.starts_with("> message"); });
+    desktop.world.files[std::string(settingsFile)] = "2/1/80\r\n";
+    desktop.world.files[std::string(statisticsFile)] = record("001002");
+    Program program(desktop);
+    program.start();
+    program.window().state.gameOver = over;
+    program.window().form.enabled = false;
+    messages = 0;
+    program.handle({EventKind::SystemEnd, &program.window().form, nullptr, nullptr, 0});
+    EXPECT_EQ(figuresOf(desktop.readFile(statisticsFile)).lost, over ? 2 : 3);
+    EXPECT_EQ(messages, 0);
+    EXPECT_FALSE(desktop.running());
+  }
+}
+
 }  // namespace
 }  // namespace mevracard

@@ -16,7 +16,7 @@ namespace mevracard {
 /// A desktop without a screen: time stands still between two ticks, a message box is closed as it
 /// opens, and a player's doings come from the functions below. They take the road of a real press:
 /// what is hidden or disabled is refused and changes nothing, and so is everything after the end.
-class HeadlessDesktop final : public Desktop {
+class HeadlessDesktop : public Desktop {
  public:
   /// Gets one line, without its line end, for everything that reaches the outside world.
   using Sink = std::function<void(std::string_view line)>;

@@ -2,11 +2,16 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QSaveFile>
-#include <QTemporaryDir>
+#include <cstdio>
+#include <filesystem>
+#include <utility>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include "platform/desktop.h"
 #include "platform/qt/directory_lock.h"
+#include "platform/qt/whole_file.h"
 
 namespace mevracard {
 
@@ -16,10 +21,7 @@ QString toName(std::string_view name) {
   return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
 }
 
-bool writeBytes(QFileDevice& file, std::string_view text) {
-  const auto size = static_cast<qint64>(text.size());
-  return file.write(text.data(), size) == size;
-}
+std::string toPath(const QString& path) { return QFile::encodeName(path).toStdString(); }
 
 /// Something that is no plain file would be waited for, or silently replaced.
 void demandPlainFile(const QString& path) {
@@ -41,26 +43,47 @@ PlatformError fileError(std::string_view name, const char* what, const std::stri
   return PlatformError(std::string(name) + what + reason);
 }
 
-/// Makes a new directory beside and gives it its name when it is complete, so that no other program
-/// ever finds it half filled.
-void makeDirectory(const QString& directory, const std::vector<DefaultFile>& defaults) {
-  const QFileInfo info(directory);
-  QDir().mkpath(info.path());
-  QTemporaryDir made(directory);
-  if (!made.isValid()) return;
-  for (const DefaultFile& content : defaults) {
-    QFile file(made.filePath(QString::fromStdString(content.name)));
-    if (!file.open(QIODevice::WriteOnly) || !writeBytes(file, content.text)) return;
-  }
-  if (QDir().rename(made.path(), directory)) made.setAutoRemove(false);
+/// Takes away no file but the program's own.
+void removeMade(const std::string& directory, const std::vector<DefaultFile>& files) {
+  for (const DefaultFile& file : files) ::unlink((directory + "/" + file.name).c_str());
+  ::rmdir(directory.c_str());
 }
 
 }  // namespace
 
-DataFiles::DataFiles(const QString& directory, const std::vector<DefaultFile>& defaults)
-    : directory_(QDir::cleanPath(directory)) {
-  // Should this fail, the first read or write says so.
-  if (!QFileInfo::exists(directory_)) makeDirectory(directory_, defaults);
+DataFiles::DataFiles(const QString& directory, std::vector<DefaultFile> defaults)
+    : directory_(QDir::cleanPath(QDir(directory).absolutePath())), defaults_(std::move(defaults)) {
+  try {
+    makeDirectory();
+    const DirectoryLock lock(directory_);
+    for (const DefaultFile& file : defaults_) {
+      ::unlink(beside(toPath(pathOf(file.name))).c_str());
+    }
+  } catch (const PlatformError&) {  // NOLINT(bugprone-empty-catch)
+  }
+}
+
+/// Fills a new directory beside and gives it its name when it is complete, so that no other program
+/// ever finds it half filled. Of several that start at once one makes it and the others wait.
+void DataFiles::makeDirectory() const {
+  if (QFileInfo::exists(directory_)) return;
+  const QString parent = QFileInfo(directory_).path();
+  std::error_code failure;
+  std::filesystem::create_directories(toPath(parent), failure);
+  if (failure) throw PlatformError(failure.message());
+  const DirectoryLock lock(parent);
+  if (QFileInfo::exists(directory_)) return;
+  const std::string made = beside(toPath(directory_));
+  removeMade(made, defaults_);
+  try {
+    demand(::mkdir(made.c_str(), 0700) == 0);
+    for (const DefaultFile& file : defaults_) makeFile(made + "/" + file.name, file.text);
+    DirectoryLock(QFile::decodeName(made.c_str())).sync();
+    demand(std::rename(made.c_str(), toPath(directory_).c_str()) == 0);
+  } catch (const PlatformError&) {
+    removeMade(made, defaults_);
+    throw;
+  }
 }
 
 QString DataFiles::pathOf(std::string_view name) const {
@@ -80,16 +103,15 @@ void DataFiles::replace(std::string_view name, std::string_view text) const {
   demandPlainFile(path);
   const QFileInfo old(path);
   if (old.exists() && !old.isWritable()) throw PlatformError("Permission denied");
-  QSaveFile file(path);
-  const bool written = file.open(QIODevice::WriteOnly) && writeBytes(file, text) && file.commit();
-  if (!written) throw PlatformError(file.errorString().toStdString());
+  replaceFile(toPath(path), text);
 }
 
 void DataFiles::write(std::string_view name, std::string_view text) const {
   try {
+    makeDirectory();
     const DirectoryLock lock(directory_);
     replace(name, text);
-    lock.flush();
+    lock.sync();
   } catch (const PlatformError& error) {
     throw fileError(name, " cannot be written: ", error.what());
   }
@@ -101,7 +123,7 @@ bool DataFiles::exchange(std::string_view name, std::string_view expected,
     const DirectoryLock lock(directory_);
     if (bytesOf(pathOf(name)) != expected) return false;
     replace(name, text);
-    lock.flush();
+    lock.sync();
     return true;
   } catch (const PlatformError& error) {
     throw fileError(name, " cannot be written: ", error.what());

@@ -14,12 +14,15 @@ namespace mevracard {
 class DataFiles final {
  public:
   /// A directory that does not exist is made, with the default files in it; one that does exist
-  /// is taken as it is.
-  DataFiles(const QString& directory, const std::vector<DefaultFile>& defaults);
+  /// is taken as it is, but for what a killed program left of a default file half written. Should
+  /// this fail, the first read or write says so.
+  DataFiles(const QString& directory, std::vector<DefaultFile> defaults);
 
   /// Throws PlatformError with the file's name and the reason, as all of them do.
   [[nodiscard]] std::string read(std::string_view name) const;
-  /// Replaces the file as a whole; on failure the old one is untouched.
+  /// Replaces the file as a whole, until it lies on the disk; on failure the old one is untouched.
+  /// Only where the directory's own sync fails does the new one stand in its place, whole: it
+  /// counts as failed, for a power cut may bring the old one back.
   void write(std::string_view name, std::string_view text) const;
   /// The same, only while the file still holds `expected`; false if it does not.
   [[nodiscard]] bool exchange(std::string_view name, std::string_view expected,
@@ -28,8 +31,10 @@ class DataFiles final {
  private:
   [[nodiscard]] QString pathOf(std::string_view name) const;
   void replace(std::string_view name, std::string_view text) const;
+  void makeDirectory() const;
 
   QString directory_;
+  std::vector<DefaultFile> defaults_;
 };
 
 }  // namespace mevracard

@@ -45,6 +45,9 @@ DirectoryLock::DirectoryLock(const QString& directory)
 
 DirectoryLock::~DirectoryLock() { ::close(handle_); }
 
-void DirectoryLock::flush() const { ::fsync(handle_); }
+void DirectoryLock::sync() const {
+  // Some file systems know no sync of a directory: there is nothing to wait for then.
+  if (::fsync(handle_) != 0 && errno != EINVAL) throw PlatformError(reason(errno));
+}
 
 }  // namespace mevracard

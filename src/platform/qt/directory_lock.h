@@ -15,8 +15,8 @@ class DirectoryLock final {
   DirectoryLock(const DirectoryLock&) = delete;
   DirectoryLock& operator=(const DirectoryLock&) = delete;
 
-  /// Sees to it that a new name in the directory outlives a power cut.
-  void flush() const;
+  /// Sees to it that a new name in the directory outlives a power cut. Throws PlatformError.
+  void sync() const;
 
  private:
   int handle_;

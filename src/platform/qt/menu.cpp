@@ -1,11 +1,16 @@
 #include "platform/qt/menu.h"
 
+#include <QApplication>
 #include <QMenu>
 #include <utility>
 
 #include "platform/qt/look.h"
 
 namespace mevracard {
+
+void closeMenus() {
+  while (QWidget* popup = QApplication::activePopupWidget()) popup->close();
+}
 
 Menu::Menu(QMenuBar& bar, const std::vector<MenuEntry*>& entries,
            std::function<void(MenuEntry&)> chosen)

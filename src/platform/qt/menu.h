@@ -9,6 +9,9 @@
 
 namespace mevracard {
 
+/// Closes the menu that the player has open, if any: it keeps the keyboard from what opens now.
+void closeMenus();
+
 /// The menu bar of a window. Entries are made once; their state follows the data.
 class Menu final {
  public:

@@ -4,12 +4,13 @@
 #include <QPushButton>
 
 #include "platform/qt/look.h"
+#include "platform/qt/menu.h"
 
 namespace mevracard {
 
 void showMessageBox(QWidget* parent, QMessageBox::Icon icon, const QString& title,
                     const QString& text) {
-  while (QWidget* popup = QApplication::activePopupWidget()) popup->close();
+  closeMenus();
   QMessageBox box(icon, title, text, QMessageBox::Ok, parent);
   box.setObjectName("messageBox");
   box.setTextFormat(Qt::PlainText);

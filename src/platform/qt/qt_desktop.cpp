@@ -11,6 +11,7 @@
 
 #include "platform/qt/accessibility.h"
 #include "platform/qt/look.h"
+#include "platform/qt/menu.h"
 #include "platform/qt/message_box.h"
 #include "platform/qt/reduced_motion.h"
 
@@ -38,8 +39,6 @@ QtDesktop::QtDesktop(const QString& dataDir, const std::vector<DefaultFile>& def
   QGuiApplication::setQuitOnLastWindowClosed(false);
   dueTicks_.setSingleShot(true);
   QObject::connect(&dueTicks_, &QTimer::timeout, &dueTicks_, [this] { deliverDueTicks(); });
-  QObject::connect(qApp, &QGuiApplication::commitDataRequest, &dueTicks_,
-                   [this] { closeBySystem(); });
 }
 
 QtDesktop::~QtDesktop() {
@@ -75,6 +74,7 @@ void QtDesktop::present() {
 
 void QtDesktop::show(Form& form) {
   form.visible = true;
+  closeMenus();
   windowOf(form).open();
 }
 
@@ -85,12 +85,17 @@ void QtDesktop::hide(Form& form) {
 
 bool QtDesktop::deliver(const Event& event) {
   if (busy_ > 0 || ended_) return false;
+  if (endingBySystem_ && event.kind != EventKind::SystemEnd) return false;
   const Busy busy(*this);
   handler_(event);
   return true;
 }
 
 void QtDesktop::deliverDueTicks() {
+  if (endingBySystem_) {
+    deliver({EventKind::SystemEnd, forms_.front(), nullptr, nullptr, 0});
+    return;
+  }
   // A tick may open a window that was never shown before, which then joins the list.
   // NOLINTNEXTLINE(modernize-loop-convert)
   for (std::size_t i = 0; i < windows_.size(); ++i) windows_[i]->deliverDueTick();
@@ -101,10 +106,12 @@ void QtDesktop::messageBox(std::string_view text) { showBox(QMessageBox::NoIcon,
 void QtDesktop::reportError(std::string_view text) { showBox(QMessageBox::Warning, text); }
 
 void QtDesktop::showBox(QMessageBox::Icon icon, std::string_view text) {
+  if (endingBySystem_) return;
   const Busy busy(*this);
   QWidget* parent = QApplication::activeWindow();
   if (parent == nullptr && !windows_.empty()) parent = windows_.front().get();
   showMessageBox(parent, icon, toText(forms_.front()->caption), toText(text));
+  if (endingBySystem_) throw EndedBySystem();
 }
 
 void QtDesktop::end() {
@@ -114,9 +121,11 @@ void QtDesktop::end() {
   QCoreApplication::exit();
 }
 
-void QtDesktop::closeBySystem() {
-  Form* main = forms_.empty() ? nullptr : forms_.front();
-  if (main != nullptr) deliver({EventKind::Close, main, nullptr, nullptr, 0});
+void QtDesktop::endBySystem() {
+  if (forms_.empty()) return;
+  endingBySystem_ = true;
+  if (QWidget* box = QApplication::activeModalWidget()) box->close();
+  dueTicks_.start(0);
 }
 
 int QtDesktop::screenHeight() const {

@@ -9,6 +9,7 @@
 #include "platform/qt/form_window.h"
 #include "platform/qt/held_keys.h"
 #include "platform/qt/pointer.h"
+#include "platform/qt/system_end.h"
 #include "platform/seeded_random.h"
 
 namespace mevracard {
@@ -55,7 +56,7 @@ class QtDesktop : public Desktop {
   void deliverDueTicks();
   void showBox(QMessageBox::Icon icon, std::string_view text);
   FormWindow& windowOf(Form& form);
-  void closeBySystem();
+  void endBySystem();
 
   DataFiles files_;
   SeededRandom random_;
@@ -65,7 +66,9 @@ class QtDesktop : public Desktop {
   std::unique_ptr<Pointer> pointer_;
   HeldKeys heldKeys_;
   QTimer dueTicks_;  ///< runs out as soon as the events at hand are done
+  SystemEnd systemEnd_{[this] { endBySystem(); }};
   int busy_ = 0;
+  bool endingBySystem_ = false;
   bool ended_ = false;
 };
 

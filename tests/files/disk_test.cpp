@@ -1,0 +1,178 @@
+// The data files on the real disk while the disk fails, and while the program is killed.
+#include <csignal>
+#include <cstdlib>
+#include <random>
+#include <set>
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "files/disk_desktop.h"
+#include "files/failing_calls.h"
+
+namespace mevracard {
+namespace {
+
+namespace fs = std::filesystem;
+
+const std::string defaultSettings = defaultSettingsText();
+
+/// A directory of the test's own, and the game's below it.
+class Home {
+ public:
+  Home() { ::mkdtemp(root_.data()); }
+  ~Home() { fs::remove_all(root_); }
+  Home(const Home&) = delete;
+  Home& operator=(const Home&) = delete;
+
+  [[nodiscard]] fs::path root() const { return root_; }
+  [[nodiscard]] fs::path game() const { return root() / "mevracard"; }
+  [[nodiscard]] fs::path settings() const { return game() / settingsFile; }
+  [[nodiscard]] fs::path record() const { return game() / statisticsFile; }
+
+  void fill(const std::string& settingsText, const std::string& recordText) const {
+    fs::create_directory(game());
+    std::ofstream(settings(), std::ios::binary) << settingsText;
+    std::ofstream(record(), std::ios::binary) << recordText;
+  }
+
+ private:
+  std::string root_ = (fs::temp_directory_path() / "mevracard-test.XXXXXX").string();
+};
+
+struct Situation {
+  const char* name;
+  std::string settings, record;        ///< before; both empty: a first start
+  std::string newSettings, newRecord;  ///< as they are written
+  void (*act)(Program&);               ///< null: what is looked at is the start itself
+  bool told;                           ///< whether the rule has a message for a failure
+};
+
+const std::string someGames = updatedRecord(emptyRecordText(), RecordMode::Won).text;
+
+const Situation situations[] = {
+    {"level change", "2/1/80\r\n", someGames, "1/1/80\r\n", someGames,
+     [](Program& p) {
+       p.handle({EventKind::Menu, &p.window().form, nullptr, &p.window().menu.playerLevel1, 0});
+     },
+     true},
+    {"result", "2/1/80\r\n", someGames, "2/1/80\r\n",
+     updatedRecord(someGames, RecordMode::Lost).text,
+     [](Program& p) {
+       p.handle({EventKind::SystemEnd, &p.window().form, nullptr, nullptr, 0});
+     },
+     false},
+    {"files anew", "torn", someGames, defaultSettings, emptyRecordText(), nullptr, true},
+    {"first start", "", "", defaultSettings, emptyRecordText(), nullptr, true},
+};
+
+/// Whether a call failed at all: the last round of each kind goes through undisturbed.
+bool playWithFailure(const Situation& situation, const char* call, int first, bool onwards) {
+  const Home home;
+  const bool firstStart = situation.settings.empty();
+  if (!firstStart) home.fill(situation.settings, situation.record);
+  int errors = 0;
+  bool happened = false;
+  const auto sink = [&errors](std::string_view line) { errors += line.starts_with("> error"); };
+  if (situation.act != nullptr) {
+    DiskDesktop desktop(home.game(), sink);
+    Program program(desktop);
+    program.start();
+    const FailingCalls failing(call, first, onwards);
+    situation.act(program);
+    happened = failing.happened();
+  } else {
+    const FailingCalls failing(call, first, onwards);
+    DiskDesktop desktop(home.game(), sink);
+    Program program(desktop);
+    program.start();
+    happened = failing.happened();
+  }
+  const std::string settings = bytesOf(home.settings());
+  const std::string record = bytesOf(home.record());
+  EXPECT_TRUE(settings == situation.settings || settings == situation.newSettings) << settings;
+  EXPECT_TRUE(record == situation.record || record == situation.newRecord) << record;
+  const bool written = settings == situation.newSettings && record == situation.newRecord;
+  EXPECT_TRUE(happened || written);
+  EXPECT_LE(errors, 1);
+  EXPECT_TRUE(situation.told || errors == 0);
+  EXPECT_TRUE(written || !situation.told || errors == 1);
+  const int files =
+      fs::exists(home.game()) ? (settings.empty() ? 0 : 1) + (record.empty() ? 0 : 1) : 0;
+  EXPECT_EQ(entriesIn(home.game()), files);
+  EXPECT_EQ(entriesIn(home.root()), fs::exists(home.game()) ? 1 : 0);
+  return happened;
+}
+
+// Each call fails in turn, alone and from then on: either file is old or new and whole, nothing
+// lies beside them, and where a failure is to be told it is told in one box.
+TEST(DataFiles, StayWholeWhateverFails) {
+  std::set<std::string> failed;
+  for (const Situation& situation : situations) {
+    for (const char* call : {"open", "write", "fsync", "close", "rename", "mkdir"}) {
+      for (const bool onwards : {false, true}) {
+        for (int first = 1;; ++first) {
+          SCOPED_TRACE(std::string(situation.name) + ": " + call + " " + std::to_string(first) +
+                       (onwards ? " and on" : ""));
+          ASSERT_LT(first, 100);
+          if (!playWithFailure(situation, call, first, onwards)) break;
+          failed.insert(call);
+        }
+      }
+    }
+  }
+  EXPECT_EQ(failed.size(), 6U);
+}
+
+/// Starts the game, then changes levels and records results until it is killed.
+[[noreturn]] void playUntilKilled(const fs::path& directory) {
+  DiskDesktop desktop(directory);
+  Program program(desktop);
+  MainWindow& w = program.window();
+  program.start();
+  for (int i = 0;; ++i) {
+    program.handle({EventKind::Menu, &w.form, nullptr,
+                    i % 2 == 0 ? &w.menu.playerLevel2 : &w.menu.playerLevel1, 0});
+    program.handle({EventKind::Menu, &w.form, nullptr, &w.menu.newGame, 0});
+  }
+}
+
+// Killed at any moment, the first start included: the files are whole, no result that was there is
+// gone, and the next start leaves nothing of what the last one began.
+TEST(DataFiles, OutliveAHundredKills) {
+  const unsigned seed = std::random_device{}();
+  SCOPED_TRACE("seed " + std::to_string(seed));
+  std::mt19937 random(seed);
+  Home home;
+  int lost = 0;
+  int kills = 0;
+  for (int round = 0; round < 100; ++round) {
+    if (round % 4 == 0) {
+      fs::remove_all(home.game());
+      lost = 0;
+    }
+    const pid_t child = ::fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) playUntilKilled(home.game());
+    ::usleep(static_cast<useconds_t>(random() % 20'000));
+    ::kill(child, SIGKILL);
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    kills += WIFSIGNALED(status) ? 1 : 0;
+    if (fs::exists(home.game())) {
+      const std::string text = bytesOf(home.settings());
+      ASSERT_TRUE(text == "1/1/99\r\n" || text == "2/1/99\r\n") << text;
+      ASSERT_EQ(bytesOf(home.record()).size(), emptyRecordText().size());
+      ASSERT_GE(figuresOf(bytesOf(home.record())).lost, lost);
+    }
+    const DiskDesktop next(home.game());
+    ASSERT_EQ(entriesIn(home.game()), 2);
+    ASSERT_EQ(entriesIn(home.root()), 1);
+    lost = figuresOf(bytesOf(home.record())).lost;
+  }
+  EXPECT_EQ(kills, 100);
+}
+
+}  // namespace
+}  // namespace mevracard

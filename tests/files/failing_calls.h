@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+
+namespace mevracard {
+
+/// While one lives, system calls of this thread fail with an input/output error: the `first`-th
+/// call of this name, and every later one as well if `onwards`.
+class FailingCalls {
+ public:
+  FailingCalls(std::string call, int first, bool onwards);
+  ~FailingCalls();
+  FailingCalls(const FailingCalls&) = delete;
+  FailingCalls& operator=(const FailingCalls&) = delete;
+
+  /// Whether so many calls were made that one failed.
+  [[nodiscard]] bool happened() const;
+};
+
+}  // namespace mevracard
