@@ -95,7 +95,8 @@ bool isPlainLabel(const Control* control) {
 }
 
 /// Keys of the main window: the choice takes its own, Esc cancels it wherever the focus is, and
-/// the keys of the player's turn that the focused control has no use for go to the Discard button.
+/// the keys of the player's turn that the focused control has no use for go to the Discard button,
+/// which takes none while it is hidden.
 void pressKey(MainWindow& w, const Event& event) {
   const int key = event.value;
   if (w.state.choiceOpen && (event.control == &w.choice.keys || key == keyEscape)) {

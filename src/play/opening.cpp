@@ -1,5 +1,6 @@
 #include "play/opening.h"
 
+#include "game/chain.h"
 #include "play/placement.h"
 #include "play/status.h"
 #include "play/tips.h"
@@ -29,10 +30,7 @@ void layDoubleZero(MainWindow& w, int slot) {
   putAt(w.card(slot).frame, chainPlace(End::RightTop, openingPosition, 0), w.scaleFactor());
   w.card(slot).paintNumbers(handColour);
   w.card(slot).uncover();
-  s.endCard = {{slot, slot}};
-  s.openNumber = {{0, 0}};
-  s.card(slot).held = false;
-  ++s.openings;
+  openChain(s, slot);
 }
 
 void giveTurnToPlayer(MainWindow& w) {

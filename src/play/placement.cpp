@@ -1,8 +1,8 @@
 #include "play/placement.h"
 
 #include <cmath>
-#include <utility>
 
+#include "game/chain.h"
 #include "game/rules.h"
 #include "play/choice.h"
 #include "ui/colors.h"
@@ -11,49 +11,24 @@ namespace mevracard {
 
 namespace {
 
-/// Turns the card so that its matching number touches the chain, and opens the other number.
-void turn(GameState& s, int slot, End end, bool upperTouches) {
-  Card& card = s.card(slot);
-  int& outward = upperTouches ? card.lower : card.upper;
-  int& touching = upperTouches ? card.upper : card.lower;
-  int& open = s.openNumber[end];
-  if (outward == open) std::swap(outward, touching);
-  open = outward;
-}
-
-/// On the table, no longer in a hand.
-void putDown(GameState& s, int slot, End end, const Laying& laying) {
-  turn(s, slot, end, laying.upperTouches);
-  s.card(slot).held = false;
-  s.playerAimsLeftBottom = false;
-  s.layPosition = laying.position;
-  s.layColumn = laying.column;
-}
-
-/// Marks go: those of the card and of the one that it joins.
-void unmark(MainWindow& w, int slot, std::optional<int> joined) {
-  w.card(slot).paintNumbers(handColour);
-  if (joined) w.card(*joined).paintNumbers(handColour);
-}
-
+/// Puts the frame in its place and takes the marks off the card and the one that it joins.
 void layAt(MainWindow& w, int slot, End end) {
   GameState& s = w.state;
-  Frame& frame = w.card(slot).frame;
-  const int n = ++s.laidAt[end];
-  const Laying laying = layingOf(end, n);
+  CardControls& card = w.card(slot);
+  if (const auto joined = s.endCard[end]) w.card(*joined).paintNumbers(handColour);
+  card.paintNumbers(handColour);
+  const Laying laying = joinChain(s, slot, end);
+  s.playerAimsLeftBottom = false;
   if (laying.inFront) {
-    w.form.bringToFront(frame);
+    w.form.bringToFront(card.frame);
   } else {
-    w.form.sendToBack(frame);
+    w.form.sendToBack(card.frame);
   }
-  unmark(w, slot, s.endCard[end]);
-  if (const auto move = markerMoveOf(end, n)) {
+  if (const auto move = markerMoveOf(end, s.laidAt[end])) {
     putAt(w.table.markers[move->marker], move->place, w.scaleFactor());
   }
-  putDown(s, slot, end, laying);
   glideCard(w);
-  putAt(frame, chainPlace(end, laying.position, laying.column), w.scaleFactor());
-  s.endCard[end] = slot;
+  putAt(card.frame, chainPlace(end, laying.position, laying.column), w.scaleFactor());
 }
 
 }  // namespace

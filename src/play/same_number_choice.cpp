@@ -11,10 +11,11 @@ namespace mevracard {
 
 namespace {
 
-void layChosenCard(MainWindow& w) {
+void layChosenCard(MainWindow& w, End end) {
   resetTip(w);
   closeChoice(w);
   w.status.visible = false;
+  if (end == End::LeftBottom) w.state.playerAimsLeftBottom = true;
   layCard(w, w.state.playCard);
   --w.state.cardsLeft[Side::Player];
   afterPlayersCard(w);
@@ -24,12 +25,9 @@ int digitKey(int number) { return '0' + number; }
 
 }  // namespace
 
-void chooseLeftBottom(MainWindow& w) {
-  w.state.playerAimsLeftBottom = true;
-  layChosenCard(w);
-}
+void chooseLeftBottom(MainWindow& w) { layChosenCard(w, End::LeftBottom); }
 
-void chooseRightTop(MainWindow& w) { layChosenCard(w); }
+void chooseRightTop(MainWindow& w) { layChosenCard(w, End::RightTop); }
 
 void cancelChoice(MainWindow& w) {
   // QUIRK-40: a card selected by 'p' stays selected. One would expect to be asked again; the next

@@ -136,9 +136,11 @@ void scrollScreenSize(MainWindow& w, int screenValue) {
 void takeScreenValue(MainWindow& w, int screenValue) {
   // Before the first deal the table has its design size, and the deal applies the size. Later the
   // table follows at once, or hands and table would be of two sizes.
-  if (!w.state.newGameAsked) w.state.screenValue = screenValue;
-  if (w.sizePanel.bar.value == screenValue && w.state.screenValue == screenValue) return;
-  scrollScreenSize(w, screenValue);
+  if (w.state.newGameAsked && w.state.screenValue != screenValue) {
+    scrollScreenSize(w, screenValue);
+  }
+  w.state.screenValue = screenValue;
+  w.sizePanel.bar.value = screenValue;
 }
 
 }  // namespace mevracard

@@ -1,0 +1,36 @@
+#include "game/chain.h"
+
+#include <utility>
+
+namespace mevracard {
+
+namespace {
+
+/// Turns the card so that its matching number touches the chain, and opens the other number.
+void turn(Card& card, int& openNumber, bool upperTouches) {
+  int& outward = upperTouches ? card.lower : card.upper;
+  int& touching = upperTouches ? card.upper : card.lower;
+  if (outward == openNumber) std::swap(outward, touching);
+  openNumber = outward;
+}
+
+}  // namespace
+
+void openChain(GameState& s, int card) {
+  s.card(card).held = false;
+  s.endCard = {{card, card}};
+  s.openNumber = {{s.card(card).upper, s.card(card).lower}};
+  ++s.openings;
+}
+
+Laying joinChain(GameState& s, int card, End end) {
+  const Laying laying = layingOf(end, ++s.laidAt[end]);
+  turn(s.card(card), s.openNumber[end], laying.upperTouches);
+  s.card(card).held = false;
+  s.endCard[end] = card;
+  s.layPosition = laying.position;
+  s.layColumn = laying.column;
+  return laying;
+}
+
+}  // namespace mevracard
