@@ -54,9 +54,9 @@ Targets rarestNumbers(const NumberCounts& playerCount) {
 
 void findBannedNumber(GameState& s, Targets& targets) {
   s.bannedNumber = noNumber;
-  const NumberCounts played = playedCounts(s);
+  NumberCounts played = playedCounts(s);
   for (int n = 0; n < static_cast<int>(played.size()); ++n) {
-    if (played[static_cast<std::size_t>(n)] != 5) continue;
+    if (countOf(played, n) != 5) continue;
     for (const int slot : handOf(Side::Computer)) {
       if (!s.card(slot).held || !s.card(slot).bears(n)) continue;
       s.bannedNumber = n;
