@@ -77,6 +77,9 @@ void jam_Timer(MainWindow& w) {
   if (!w.form.enabled) return;
   if (s.demoMove == 1) {
     if (s.demoDone == 1) {
+      // QUIRK-41: before the first demonstrated move, the tick after a pass finds it done. One
+      // would expect the line to name the computer; the player reads "Your Turn", and NEXT lets the
+      // computer move. Meant.
       w.showTurn(yourTurn);
       raiseStatus(w);
       s.tutorialActive = 0;

@@ -90,6 +90,25 @@ TEST(Statistics, StartAgainAt999) {
   EXPECT_EQ(updatedRecord(record("1"), RecordMode::Won).text, encodeDigits("0021") + "\r\n");
 }
 
+// Another program's record that comes while the box of 999 games waits is the one that is added to,
+// and full again it brings no second box.
+TEST(Statistics, AddToWhatAnotherProgramWroteMeanwhile) {
+  for (const auto& [meanwhile, after] : {std::pair{record("001002"), record("002002")},
+                                         std::pair{record("501499"), encodeDigits("1") + "\r\n"}}) {
+    int boxes = 0;
+    HeadlessDesktop desktop([&, &other = meanwhile](std::string_view line) {
+      if (!line.starts_with("> message")) return;
+      ++boxes;
+      desktop.world.files[std::string(statisticsFile)] = other;
+    });
+    desktop.world.files[std::string(statisticsFile)] = record("500499");
+    MainWindow w(desktop);
+    recordResult(w, RecordMode::Won);
+    EXPECT_EQ(desktop.readFile(statisticsFile), after);
+    EXPECT_EQ(boxes, 1);
+  }
+}
+
 // Torn and foreign files: nothing is read past the end, and the result is a file that reads again.
 TEST(Statistics, TakeAnyText) {
   for (const std::string& text :
