@@ -5,7 +5,6 @@
 #include <QFile>
 #include <QMessageBox>
 #include <QScreen>
-#include <numeric>
 
 #include <QtTest/QTest>
 
@@ -108,22 +107,6 @@ QPoint Screen::pointer() {
     if (line.startsWith("Y=")) at.setY(line.mid(2).toInt());
   }
   return at;
-}
-
-std::string brokenInvariant(const GameState& s) {
-  const auto count = [&s](int from) {
-    return std::accumulate(s.held.begin() + from, s.held.begin() + from + handSize, 0);
-  };
-  if (count(0) != s.sisa[1]) return "the player's count is not the hand";
-  if (count(handSize) > s.sisa[0]) return "the computer's count is below the hand";
-  if (s.lina + s.linb + 1 != cardCount - count(0) - count(handSize)) {
-    return "the ends' counts are not the table";
-  }
-  for (const auto& [card, number] : {std::pair{s.k0, s.kotak[0]}, std::pair{s.k1, s.kotak[1]}}) {
-    const auto i = static_cast<std::size_t>(card.value_or(0));
-    if (s.a[i] != number && s.b[i] != number) return "an end's number is not on its card";
-  }
-  return "";
 }
 
 }  // namespace mevracard

@@ -64,7 +64,4 @@ class Screen {
   QTimer closer_;
 };
 
-/// The rules that hold at any moment of a game; empty, or what is broken.
-[[nodiscard]] std::string brokenInvariant(const GameState& s);
-
 }  // namespace mevracard

@@ -1,8 +1,6 @@
 // Menus, the other windows, the screen size and covered cards, as they stand on the screen.
-#include <QAccessible>
 #include <QApplication>
 #include <QPixmap>
-#include <QRegularExpression>
 #include <QScreen>
 #include <QScrollBar>
 #include <csignal>
@@ -11,7 +9,6 @@
 #include <gtest/gtest.h>
 
 #include "ai/passing.h"
-#include "game/rules.h"
 #include "guide/tip_text.h"
 #include "screen.h"
 #include "store/statistics.h"
@@ -24,17 +21,6 @@ void chooseFromMenu(Screen& screen, std::initializer_list<const char*> keys) {
     screen.key(key);
     screen.settle(120);
   }
-}
-
-/// All texts that assistive technology reads in a part of the window.
-QString spokenTexts(QAccessibleInterface* part) {
-  QString texts = part->text(QAccessible::Name) + part->text(QAccessible::Description) +
-                  part->text(QAccessible::Value);
-  for (int i = 0; i < part->childCount(); ++i) {
-    QAccessibleInterface* child = part->child(i);
-    if (child != nullptr && !child->state().invisible) texts += spokenTexts(child);
-  }
-  return texts;
 }
 
 // Access keys and check marks; a level deals anew without the abort message.
@@ -73,35 +59,6 @@ TEST(Tips, FitTheirWindow) {
   for (const auto* bar : screen.widget(w.authormevra.additional).findChildren<QScrollBar*>()) {
     EXPECT_FALSE(bar->isVisible());
   }
-}
-
-/// The computer holds every 0, so that the player cannot answer the opening.
-Deck deckWithoutZeros() {
-  Deck deck;
-  std::size_t players = 0;
-  std::size_t computers = handSize;
-  for (int x = 0; x <= 6; ++x) {
-    for (int y = x; y <= 6; ++y) {
-      const bool toComputer = x == 0 || players == handSize;
-      deck[toComputer ? computers++ : players++] = {x, y};
-    }
-  }
-  return deck;
-}
-
-// The close box of the pass popup is its OK: the main window must never stay disabled.
-TEST(Tips, CloseBoxAfterAPassCountsAsOk) {
-  Screen screen;
-  MainWindow& w = screen.window();
-  w.stackedDeck = deckWithoutZeros();
-  screen.start();
-  ASSERT_TRUE(w.authormevra.ctrcom.visible);
-  EXPECT_FALSE(w.form.enabled);
-  screen.shoot("opening-pass");
-  screen.key("alt+F4");
-  ASSERT_TRUE(screen.waitFor([&] { return w.form.enabled; }));
-  EXPECT_EQ(w.state.sisa[3], 1);
-  ASSERT_TRUE(screen.waitFor([&] { return w.state.lina + w.state.linb > 0; }));
 }
 
 // An open menu must not keep the keyboard from what the game opens over it.
@@ -158,26 +115,6 @@ TEST(SystemEnd, CountsARunningGameOnceWhateverIsOpen) {
     beginAnew();
     bySignal = !bySignal;
   }
-}
-
-// A covered card must give nothing away, neither to the eye nor to a screen reader.
-TEST(CoveredCards, TellNothing) {
-  Screen screen(3, "2/1/85\r\n");
-  screen.start();
-  MainWindow& w = screen.window();
-  ASSERT_TRUE(screen.waitFor([&] { return !w.jam.enabled; }));
-  screen.shoot("covered");
-  QAccessible::setActive(true);
-  int covered = 0;
-  for (std::size_t i = computerFirst; i <= computerLast; ++i) {
-    if (!w.luar1[i].visible) continue;
-    ++covered;
-    QWidget& card = screen.widget(w.k[i]);
-    const QString texts = spokenTexts(QAccessible::queryAccessibleInterface(&card));
-    EXPECT_FALSE(texts.contains(QRegularExpression("[0-9]"))) << texts.toStdString();
-    EXPECT_THROW((void)screen.widget(w.a[i]), std::runtime_error);
-  }
-  EXPECT_GT(covered, 5);
 }
 
 QImage pictureOfTable(Screen& screen) {

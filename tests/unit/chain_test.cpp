@@ -50,6 +50,7 @@ TEST(Deal, SeedIsYearByMinuteAndSecond) {
   EXPECT_DOUBLE_EQ(dealSeedOf("1/2/2026", 0, 0), 2026.0);
   EXPECT_DOUBLE_EQ(dealSeedOf("1/2/26", 1, 1), 2.0 / 2);  // "2/26" begins with a 2
   EXPECT_DOUBLE_EQ(dealSeedOf("1.2.26", 1, 1), 2.26 / 2);
+  EXPECT_DOUBLE_EQ(dealSeedOf("1/2  26", 1, 1), 26.0 / 2);
   EXPECT_DOUBLE_EQ(dealSeedOf("", 1, 1), 0.0);
 }
 

@@ -127,11 +127,13 @@ long cardsBehindStatus(const MainWindow& w) {
 // sends the status line behind the cards, a pass of the computer's brings it in front.
 TEST(Windows, ShowTheRightThingsBehindMessages) {
   std::vector<bool> hands;
+  std::string status;
   long behind = 0;
   const MainWindow* window = nullptr;
   HeadlessDesktop desktop([&](std::string_view line) {
     if (!line.starts_with("> message")) return;
     hands.push_back(window->k[0].visible);
+    status = window->tanda.caption;
     behind = cardsBehindStatus(*window);
   });
   desktop.world.files = {{"wdx.sys", "1/1/99\r\n"}, {"sys32rtn.dat", "547153507498\r\n"}};
@@ -149,6 +151,7 @@ TEST(Windows, ShowTheRightThingsBehindMessages) {
   w.state.kotak = {w.state.a[0], w.state.b[0]};
   komputer(w);
   EXPECT_EQ(behind, cardCount);
+  EXPECT_EQ(status, "Computer Passes!");
 
   // A card that is laid glides from its place in the hand.
   w.state.playCard = 0;
