@@ -1,4 +1,4 @@
-// Menus, the other windows, the screen size and covered cards, as they stand on the screen.
+// Menus, the other windows and the screen size, as they stand on the screen.
 #include <QApplication>
 #include <QPixmap>
 #include <QScreen>
