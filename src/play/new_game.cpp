@@ -58,6 +58,7 @@ void layOutHands(MainWindow& w, double scale) {
     const auto [upper, lower] = deck[static_cast<std::size_t>(slot)];
     w.state.card(slot) = {upper, lower, true};
     putAt(w.card(slot).frame, handPlace(slot), scale);
+    w.card(slot).frame.backColor = handColour;
     w.card(slot).paintNumbers(handColour);
   }
 }
@@ -103,7 +104,9 @@ void takeScreenMetrics(MainWindow& w) {
 void startGame(MainWindow& w) {
   takeScreenMetrics(w);
   w.state.gameOver = false;
-  w.discard.visible = true;
+  w.discard.visible = true;  // for the keyboard alone
+  w.discard.width = 0;
+  w.discard.height = 0;
   w.desktop.show(w.form);
   showCards(w, false);
   loadSettings(w);

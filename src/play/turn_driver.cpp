@@ -8,7 +8,9 @@ namespace mevracard {
 
 namespace {
 
-/// No move was demonstrated since the opening, so there is none to go on with.
+/// QUIRK-41: before the first demonstrated move, the tick after a pass finds it done. One would
+/// expect the line to name the computer; the player reads "Your Turn", and NEXT lets the computer
+/// move. Meant.
 void giveTurnToPlayer(MainWindow& w) {
   announce(w, Announcement::YourTurn);
   raiseStatus(w);

@@ -69,7 +69,7 @@ void designTable(TableControls& t) {
 /// Places are relative to the card's top-left corner. The deal puts the frames into the hands.
 void designCard(CardControls& card) {
   place(card.frame, {0, 0, 495, 1095});
-  card.frame.backColor = handColour;
+  card.frame.backColor = paleGreen;
   design(card.upper,           {120, 240, 255,  255}, "1", cardNumber);
   design(card.lower,           {120, 720, 255,  255}, "2", cardNumber);
   design(card.divider,           0, 600, 480,  600, black, 1);
@@ -83,7 +83,7 @@ void designCard(CardControls& card) {
 
 void designStatusAndDiscard(MainWindow& w) {
   design(w.status,  {840, 5640, 4815, 495}, "Same Number. Choose One", statusLine);
-  design(w.discard, {50000, 9360, 0, 0}, "Discard");
+  design(w.discard, {50000, 9360, 135, 225}, "Discard");
   w.discard.font = discardFont;
   w.discard.backColor = buttonGreen;
   w.discard.keysOnly = true;
@@ -255,6 +255,7 @@ void MainWindow::designControls() {
 
   designTable(table);
   for (CardControls& card : cards) designCard(card);
+  cards[0].frame.backColor = handColour;
   designStatusAndDiscard(*this);
   designChoice(choice);
   designResult(result);
@@ -291,6 +292,8 @@ void MainWindow::designMenu() {
   m.screenOption     = {"scr",    "Screen&Option"};
   m.howToPlay        = {"how",    "HowTo&Play"};
   // clang-format on
+  m.playerLevel1.checked = true;
+  m.computerLevel1.checked = true;
 
   link(m.playerLevel, {&m.playerLevel1, &m.playerLevel2});
   link(m.computerLevel, {&m.computerLevel1, &m.computerLevel2});

@@ -33,8 +33,8 @@ StatisticsWindow::StatisticsWindow() {
   form.add(wonCaption, "Label2", 0);
   form.add(lostCaption, "Label3", 0);
   form.add(won, "wins");
-  form.add(lost, "loses");
   form.add(wonPercent, "pwins");
+  form.add(lost, "loses");
   form.add(lostPercent, "ploses");
   form.add(ok, "tutuprec");
   form.add(clear, "hapusrec");

@@ -5,7 +5,6 @@
 #include <QFile>
 #include <QMessageBox>
 #include <QScreen>
-#include <algorithm>
 
 #include <QtTest/QTest>
 
@@ -108,27 +107,6 @@ QPoint Screen::pointer() {
     if (line.startsWith("Y=")) at.setY(line.mid(2).toInt());
   }
   return at;
-}
-
-int cardsLaid(const GameState& s) { return s.laidAt[End::RightTop] + s.laidAt[End::LeftBottom]; }
-
-std::string brokenInvariant(const GameState& s) {
-  const auto held = [&s](Side side) {
-    const auto hand = handOf(side);
-    return std::count_if(hand.begin(), hand.end(), [&](int slot) { return s.card(slot).held; });
-  };
-  const auto players = held(Side::Player);
-  const auto computers = held(Side::Computer);
-  if (players != s.cardsLeft[Side::Player]) return "the player's count is not the hand";
-  if (computers > s.cardsLeft[Side::Computer]) return "the computer's count is below the hand";
-  if (cardsLaid(s) + 1 != cardCount - players - computers) {
-    return "the ends' counts are not the table";
-  }
-  for (const End end : {End::RightTop, End::LeftBottom}) {
-    const Card& card = s.card(s.endCard[end].value_or(0));
-    if (!card.bears(s.openNumber[end])) return "an end's number is not on its card";
-  }
-  return "";
 }
 
 }  // namespace mevracard

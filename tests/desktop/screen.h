@@ -64,10 +64,4 @@ class Screen {
   QTimer closer_;
 };
 
-/// Cards on the table but for the 0-0.
-[[nodiscard]] int cardsLaid(const GameState& s);
-
-/// The rules that hold at any moment of a game; empty, or what is broken.
-[[nodiscard]] std::string brokenInvariant(const GameState& s);
-
 }  // namespace mevracard

@@ -1,8 +1,6 @@
-// Menus, the other windows, the screen size and covered cards, as they stand on the screen.
-#include <QAccessible>
+// Menus, the other windows and the screen size, as they stand on the screen.
 #include <QApplication>
 #include <QPixmap>
-#include <QRegularExpression>
 #include <QScreen>
 #include <QScrollBar>
 #include <csignal>
@@ -23,17 +21,6 @@ void chooseFromMenu(Screen& screen, std::initializer_list<const char*> keys) {
     screen.key(key);
     screen.settle(120);
   }
-}
-
-/// All texts that assistive technology reads in a part of the window.
-QString spokenTexts(QAccessibleInterface* part) {
-  QString texts = part->text(QAccessible::Name) + part->text(QAccessible::Description) +
-                  part->text(QAccessible::Value);
-  for (int i = 0; i < part->childCount(); ++i) {
-    QAccessibleInterface* child = part->child(i);
-    if (child != nullptr && !child->state().invisible) texts += spokenTexts(child);
-  }
-  return texts;
 }
 
 // Access keys and check marks; a level deals anew without the abort message.
@@ -73,35 +60,6 @@ TEST(Tips, FitTheirWindow) {
   for (const auto* bar : screen.widget(w.about.tip).findChildren<QScrollBar*>()) {
     EXPECT_FALSE(bar->isVisible());
   }
-}
-
-/// The computer holds every 0, so that the player cannot answer the opening.
-Deck deckWithoutZeros() {
-  Deck deck;
-  std::size_t players = 0;
-  std::size_t computers = handSize;
-  for (int x = 0; x <= 6; ++x) {
-    for (int y = x; y <= 6; ++y) {
-      const bool toComputer = x == 0 || players == handSize;
-      deck[toComputer ? computers++ : players++] = {x, y};
-    }
-  }
-  return deck;
-}
-
-// The close box of the pass popup is its OK: the main window must never stay disabled.
-TEST(Tips, CloseBoxAfterAPassCountsAsOk) {
-  Screen screen;
-  MainWindow& w = screen.window();
-  w.stackedDeck = deckWithoutZeros();
-  screen.start();
-  ASSERT_TRUE(w.about.ok.visible);
-  EXPECT_FALSE(w.form.enabled);
-  screen.shoot("opening-pass");
-  screen.key("alt+F4");
-  ASSERT_TRUE(screen.waitFor([&] { return w.form.enabled; }));
-  EXPECT_EQ(w.state.passes[Side::Player], 1);
-  ASSERT_TRUE(screen.waitFor([&] { return cardsLaid(w.state) > 0; }));
 }
 
 // An open menu must not keep the keyboard from what the game opens over it.
@@ -158,27 +116,6 @@ TEST(SystemEnd, CountsARunningGameOnceWhateverIsOpen) {
     beginAnew();
     bySignal = !bySignal;
   }
-}
-
-// A covered card must give nothing away, neither to the eye nor to a screen reader.
-TEST(CoveredCards, TellNothing) {
-  Screen screen(3, "2/1/85\r\n");
-  screen.start();
-  MainWindow& w = screen.window();
-  ASSERT_TRUE(screen.waitFor([&] { return !w.timer.enabled; }));
-  screen.shoot("covered");
-  QAccessible::setActive(true);
-  int covered = 0;
-  for (const int slot : handOf(Side::Computer)) {
-    const CardControls& card = w.card(slot);
-    if (!card.back.ground.visible) continue;
-    ++covered;
-    QWidget& frame = screen.widget(card.frame);
-    const QString texts = spokenTexts(QAccessible::queryAccessibleInterface(&frame));
-    EXPECT_FALSE(texts.contains(QRegularExpression("[0-9]"))) << texts.toStdString();
-    EXPECT_THROW((void)screen.widget(card.upper), std::runtime_error);
-  }
-  EXPECT_GT(covered, 5);
 }
 
 QImage pictureOfTable(Screen& screen) {

@@ -1,11 +1,11 @@
-// The pure rules of the table: dealing, matching, the winding chain, the count at the end.
+// The pure rules of a game: dealing, and the count at the end.
+#include "game/deal.h"
+
 #include <algorithm>
 #include <set>
 
 #include <gtest/gtest.h>
 
-#include "game/deal.h"
-#include "game/grid.h"
 #include "game/scoring.h"
 #include "platform/seeded_random.h"
 
@@ -49,41 +49,9 @@ TEST(Deal, SeedIsYearByMinuteAndSecond) {
   EXPECT_DOUBLE_EQ(dealSeedOf("31/12/2026", 4, 3), 2026.0 / 7);
   EXPECT_DOUBLE_EQ(dealSeedOf("1/2/2026", 0, 0), 2026.0);
   EXPECT_DOUBLE_EQ(dealSeedOf("1/2/26", 1, 1), 2.0 / 2);  // "2/26" begins with a 2
+  EXPECT_DOUBLE_EQ(dealSeedOf("1.2.26", 1, 1), 2.26 / 2);
+  EXPECT_DOUBLE_EQ(dealSeedOf("1/2  26", 1, 1), 26.0 / 2);
   EXPECT_DOUBLE_EQ(dealSeedOf("", 1, 1), 0.0);
-}
-
-struct LayingRow {
-  End end;
-  int n, position, column;
-  bool inFront, upperTouches;
-};
-
-// The turns of the chain, by hand: the last card before and the first after each of them. QUIRK-01
-// is the last row of each end: it keeps the touching half of the row before.
-TEST(Grid, WindsAtTheTurns) {
-  constexpr End right = End::RightTop, left = End::LeftBottom;
-  for (const LayingRow& row : {LayingRow{right, 1, 7, 0, true, false},
-                               {right, 7, 13, 0, true, false},
-                               {right, 8, 13, 1, false, true},
-                               {right, 21, 0, 1, false, true},
-                               {right, 22, 0, 2, true, true},
-                               {right, 24, 2, 2, true, true},
-                               {left, 1, 5, 0, false, true},
-                               {left, 6, 0, 0, false, true},
-                               {left, 7, 0, 1, true, false},
-                               {left, 20, 13, 1, true, false},
-                               {left, 21, 13, 2, false, false},
-                               {left, 23, 11, 2, false, false}}) {
-    const Laying laying = layingOf(row.end, row.n);
-    SCOPED_TRACE(row.n);
-    EXPECT_EQ(laying.position, row.position);
-    EXPECT_EQ(laying.column, row.column);
-    EXPECT_EQ(laying.inFront, row.inFront);
-    EXPECT_EQ(laying.upperTouches, row.upperTouches);
-  }
-  EXPECT_EQ(chainPlace(left, 0, 1).left, 5880);
-  EXPECT_EQ(chainPlace(right, 13, 2).left, 8760);
-  EXPECT_EQ(chainPlace(right, 13, 2).top, 1680);
 }
 
 // The order of the tie-breaks, QUIRK-20: a full tie is the player's loss.
