@@ -53,6 +53,7 @@ const char* TableWatch::aboutChain() {
     surplus_ = 0;
     endCard_ = {s.k0, s.k0};
     if (!isDoubleZero(s, s.k0)) return "a game starts with the 0-0";
+    if (s.theend == 1) return "a new game is not over";
   }
   int players = 0;
   int computers = 0;

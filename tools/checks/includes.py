@@ -21,7 +21,9 @@ PURE = {
     "store/statistics",
 }
 DESKTOPS = ("platform/qt/", "platform/headless/")
-TOOLKIT_ALLOWED = ("src/platform/qt/", "tests/desktop/", "tests/files/", "bench/desktop/")
+TOOLKIT_ALLOWED = (
+    "src/platform/qt/", "tests/desktop/", "tests/files/", "tests/monkey/", "bench/desktop/"
+)
 INCLUDE = re.compile(r'\s*#\s*include\s*([<"])([^>"]+)')
 
 

@@ -9,7 +9,7 @@ FORBIDDEN = {
     r"(?<![\w.])/(hom[e]|roo[t]|wor[k]|tm[p])/": "a path of one machine",
     r"\b(TOD[O]|FIXM[E])\b": "finish it, or open an issue",
 }
-BINARY = (".png", ".pyc")
+BINARY = (".png", ".pyc", ".bin")
 
 folders = [path.name for path in ROOT.iterdir() if path.name not in (".git", "build")]
 finish([
