@@ -54,6 +54,7 @@ const char* TableWatch::aboutChain() {
     surplus_ = 0;
     endCard_ = {{s.endCard[End::RightTop], s.endCard[End::RightTop]}};
     if (!isDoubleZero(s, s.endCard[End::RightTop])) return "a game starts with the 0-0";
+    if (s.gameOver) return "a new game is not over";
   }
   int players = 0;
   int computers = 0;

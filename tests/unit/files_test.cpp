@@ -73,6 +73,8 @@ TEST(Statistics, CountAndKeepWhatFollowsTheRecord) {
   EXPECT_EQ(updatedRecord(record("012345", "tail"), RecordMode::Clear).text,
             record("000000", "tail"));
   EXPECT_FALSE(updatedRecord(record("499499"), RecordMode::Won).startedAgain);
+  const std::string much(8'000'000, 'z');
+  EXPECT_EQ(updatedRecord(record("000000", much), RecordMode::Won).text, record("001000", much));
 }
 
 // QUIRK-28: at 999 games the counts begin again and the record holds the single digit 1, whoever

@@ -19,7 +19,9 @@ KNOWS = {
     "app": "platform game texts store ai ui play",
 }
 MAIN, MAIN_KNOWS = "src/app/main.cpp", "platform/qt"  # chooses the desktop
-TOOLKIT_ALLOWED = ("src/platform/qt/", "tests/desktop/", "tests/files/", "bench/desktop/")
+TOOLKIT_ALLOWED = (
+    "src/platform/qt/", "tests/desktop/", "tests/files/", "tests/monkey/", "bench/desktop/"
+)
 INCLUDE = re.compile(r'\s*#\s*include\s*([<"])([^>"]+)')
 
 
