@@ -1,4 +1,4 @@
-// The demonstration in the real window: the system's own pointer, and a whole game by NEXT alone.
+// The demonstration in the real window: where the system's own pointer ends.
 #include <QScreen>
 
 #include <gtest/gtest.h>
@@ -49,23 +49,6 @@ TEST(Demonstration, EndsOnTheMarkedNumber) {
     const QPoint pointer = Screen::pointer();
     EXPECT_TRUE(target.contains(pointer)) << pointer.x() << ", " << pointer.y();
   }
-}
-
-// Stop must work by keyboard, and nothing of a stopped glide may reach the normal game.
-TEST(Demonstration, StopsInMidGlide) {
-  Screen screen(3);
-  startTutorial(screen);
-  MainWindow& w = screen.window();
-  ASSERT_TRUE(screen.waitFor([&] { return w.state.tutorialActive == 1 || !w.jam.enabled; }));
-  screen.click(w.cmdHow);
-  ASSERT_TRUE(screen.waitFor([&] { return w.state.demoBusy == 1; }));
-  screen.settle(150);
-  screen.key("Tab");
-  screen.settle(50);
-  screen.key("space");
-  ASSERT_TRUE(screen.waitFor([&] { return !w.cmdCL.visible; }));
-  screen.settle(1500);
-  EXPECT_EQ(w.state.demoBusy + w.state.demoMove + w.state.tutorialDeal, 0);
 }
 
 }  // namespace
