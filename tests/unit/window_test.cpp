@@ -154,9 +154,12 @@ TEST(Windows, ShowTheRightThingsBehindMessages) {
   EXPECT_EQ(status, "Computer Passes!");
 
   // A card that is laid glides from its place in the hand.
+  const Position hand{w.k[0].left, w.k[0].top};
   w.state.playCard = 0;
   Cocok(w);
   EXPECT_GE(w.k[0].track.size(), 6U);
+  EXPECT_EQ(w.k[0].track.at(0), hand);
+  EXPECT_EQ(w.k[0].track.at(1), hand);
 }
 
 }  // namespace
