@@ -1,4 +1,4 @@
-// The demonstration in the real window: the system's own pointer, and a whole game by NEXT alone.
+// The demonstration in the real window: where the system's own pointer ends.
 #include <QScreen>
 
 #include <gtest/gtest.h>
@@ -48,25 +48,6 @@ TEST(Demonstration, EndsOnTheMarkedNumber) {
     const QPoint pointer = Screen::pointer();
     EXPECT_TRUE(target.contains(pointer)) << pointer.x() << ", " << pointer.y();
   }
-}
-
-// Stop must work by keyboard, and nothing of a stopped glide may reach the normal game.
-TEST(Demonstration, StopsInMidGlide) {
-  Screen screen(3);
-  startTutorial(screen);
-  MainWindow& w = screen.window();
-  ASSERT_TRUE(
-      screen.waitFor([&] { return w.state.tutorial.computerWaitsForNext || !w.timer.enabled; }));
-  screen.click(w.tutorial.next);
-  ASSERT_TRUE(screen.waitFor([&] { return w.state.demo.busy; }));
-  screen.settle(150);
-  screen.key("Tab");
-  screen.settle(50);
-  screen.key("space");
-  ASSERT_TRUE(screen.waitFor([&] { return !w.tutorial.stop.visible; }));
-  screen.settle(1500);
-  EXPECT_FALSE(w.state.demo.busy || w.state.tutorial.running);
-  EXPECT_FALSE(w.state.tutorial.nextIsComputers || w.state.tutorial.untilFirstCard);
 }
 
 }  // namespace

@@ -22,19 +22,17 @@ struct Doing {
   int weight;
   std::string_view lines;
 };
+// clang-format off
 constexpr std::array doings{
-    Doing{10, "dblclick k(*)"},    Doing{6, "dblclick k(#)"},
-    Doing{2, "dblclick a(#)"},     Doing{6, "key %"},
-    Doing{2, "key Esc"},           Doing{4, "key p\nkey p\nkey Enter"},
-    Doing{4, "key p\nkey Space"},  Doing{16, "tick"},
-    Doing{4, "click kiri"},        Doing{4, "click kanan"},
-    Doing{2, "click canc"},        Doing{6, "click ctrcom"},
-    Doing{3, "close authormevra"}, Doing{2, "menu tips"},
-    Doing{1, "menu stat"},         Doing{2, "click hapusrec"},
-    Doing{3, "click tutuprec"},    Doing{1, "close kalahmenang"},
-    Doing{2, "menu scr"},          Doing{1, "scroll 7%"},
-    Doing{2, "click cmdscreen"},   Doing{3, "mousedown cmdHow\nclick cmdHow"},
-    Doing{1, "click cmdCL"}};
+    Doing{10, "dblclick k(*)"}, Doing{6, "dblclick k(#)"}, Doing{2, "dblclick a(#)"},
+    Doing{6, "key %"}, Doing{2, "key Esc"}, Doing{4, "key p\nkey p\nkey Enter"},
+    Doing{4, "key p\nkey Space"}, Doing{16, "tick"}, Doing{4, "click kiri"},
+    Doing{4, "click kanan"}, Doing{2, "click canc"}, Doing{6, "click ctrcom"},
+    Doing{3, "close authormevra"}, Doing{2, "menu tips"}, Doing{1, "menu stat"},
+    Doing{2, "click hapusrec"}, Doing{3, "click tutuprec"}, Doing{1, "close kalahmenang"},
+    Doing{2, "menu scr"}, Doing{1, "scroll 7%"}, Doing{2, "click cmdscreen"},
+    Doing{3, "mousedown cmdHow\nclick cmdHow"}, Doing{1, "click cmdCL"}};
+// clang-format on
 /// What begins another game: done after the end, and now and then before.
 constexpr std::array<std::string_view, 8> beginnings{
     "menu rg", "menu rg", "menu rg", "menu pl1", "menu pl2", "menu cl1", "menu cl2", "menu how"};

@@ -48,10 +48,15 @@ TEST(Deal, SeedIsYearByMinuteAndSecond) {
   EXPECT_DOUBLE_EQ(dealSeedOf("1/2/2026", 3, 4), 2026.0 / 7);
   EXPECT_DOUBLE_EQ(dealSeedOf("31/12/2026", 4, 3), 2026.0 / 7);
   EXPECT_DOUBLE_EQ(dealSeedOf("1/2/2026", 0, 0), 2026.0);
-  EXPECT_DOUBLE_EQ(dealSeedOf("1/2/26", 1, 1), 2.0 / 2);  // "2/26" begins with a 2
-  EXPECT_DOUBLE_EQ(dealSeedOf("1.2.26", 1, 1), 2.26 / 2);
-  EXPECT_DOUBLE_EQ(dealSeedOf("1/2  26", 1, 1), 26.0 / 2);
-  EXPECT_DOUBLE_EQ(dealSeedOf("", 1, 1), 0.0);
+  // The last four characters of other dates.
+  for (const auto& [date, year] : {std::pair{"1/2/26", 2.0},
+                                   {"1.2.26", 2.26},
+                                   {"1-2-26", 2.0},
+                                   {"1/2  26", 26.0},
+                                   {"-126", -126.0},
+                                   {"", 0.0}}) {
+    EXPECT_DOUBLE_EQ(dealSeedOf(date, 1, 1), year / 2);
+  }
 }
 
 // The order of the tie-breaks, QUIRK-20: a full tie is the player's loss.

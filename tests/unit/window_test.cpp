@@ -155,8 +155,12 @@ TEST(Windows, ShowTheRightThingsBehindMessages) {
   EXPECT_EQ(status, "Computer Passes!");
 
   // A card that is laid glides from its place in the hand.
+  const Frame& frame = w.cards[0].frame;
+  const Position inHand{frame.left, frame.top};
   EXPECT_TRUE(layCard(w, 0));
-  EXPECT_GE(w.cards[0].frame.track.size(), 6U);
+  EXPECT_GE(frame.track.size(), 6U);
+  EXPECT_EQ(frame.track.at(0), inHand);
+  EXPECT_EQ(frame.track.at(1), inHand);
 }
 
 }  // namespace
