@@ -96,12 +96,12 @@ struct PixelVector {
 /// The demonstrated move: the pointer goes from `start` to `start + offset`, then the card is laid.
 struct Demonstration {
   bool busy = false;  ///< a move is being shown
-  bool done = false;  ///< since the opening none was begun
+  bool done = false;  ///< set by the opening, until a move is begun
   int tick = 0;       ///< ticks of the pointer's way
   PixelVector start, offset;
 };
 
-/// The one record of a game. An empty optional holds no slot yet.
+/// The one record of a game. An empty optional holds nothing yet.
 struct GameState {
   // The cards and the chain.
   std::array<Card, cardCount> cards;
