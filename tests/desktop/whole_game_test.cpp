@@ -16,7 +16,7 @@ class Player {
 
   void play() {
     for (; acts_ < 200 && !screen_.state().gameOver; ++acts_) act();
-    ASSERT_EQ(screen_.state().gameOver, 1);
+    ASSERT_TRUE(screen_.state().gameOver);
     screen_.shoot("end");
     Result& result = screen_.window().result;
     for (const Label* label : result.labels()) {
@@ -54,10 +54,8 @@ class Player {
     ASSERT_NE(found, hand.end()) << "the player is asked to move and cannot";
     const int card = *found;
     byMouse() ? screen_.doubleClick(screen_.window().card(card).frame) : layByKeys(card);
-    ASSERT_TRUE(screen_.waitFor([&] {
-      return !s.card(card).held || screen_.window().state.choiceOpen;
-    })) << "card "
-        << card << " was not laid";
+    ASSERT_TRUE(screen_.waitFor([&] { return !s.card(card).held || s.choiceOpen; }))
+        << "card " << card << " was not laid";
   }
 
   void layByKeys(int card) {
