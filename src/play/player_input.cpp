@@ -38,8 +38,8 @@ void closePanelIfOpen(MainWindow& w) {
 
 /// QUIRK-39: a refused card keeps its red numbers although it is no longer selected. One would
 /// expect them to go; the player may see two red cards after the next 'p'. Meant.
-/// A reply that was due stays due, else a player who cannot move would wait
-/// for ever; and the choice must not go on with the refused card.
+/// A reply that was due stays due, else a player who cannot move would wait for ever; the choice
+/// must not go on with the refused card.
 void refuseCard(MainWindow& w, bool replyWasDue) {
   if (replyWasDue) w.timer.goOn();
   if (!w.state.choiceOpen) return;
