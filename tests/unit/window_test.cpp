@@ -134,6 +134,7 @@ TEST(Windows, ShowTheRightThingsBehindMessages) {
     if (!line.starts_with("> message")) return;
     hands.push_back(window->k[0].visible);
     status = window->tanda.caption;
+    EXPECT_EQ(window->a[0].caption, std::to_string(window->state.a[0]));
     behind = cardsBehindStatus(*window);
   });
   desktop.world.files = {{"wdx.sys", "1/1/99\r\n"}, {"sys32rtn.dat", "547153507498\r\n"}};
