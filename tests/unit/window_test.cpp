@@ -134,6 +134,7 @@ TEST(Windows, ShowTheRightThingsBehindMessages) {
     if (!line.starts_with("> message")) return;
     hands.push_back(window->cards[0].frame.visible);
     status = window->status.caption;
+    EXPECT_EQ(window->cards[0].upper.caption, std::to_string(window->state.cards[0].upper));
     behind = cardsBehindStatus(*window);
   });
   desktop.world.files = {{"wdx.sys", "1/1/99\r\n"}, {"sys32rtn.dat", "547153507498\r\n"}};
