@@ -21,7 +21,13 @@ PURE = {
     "store/statistics",
 }
 DESKTOPS = ("platform/qt/", "platform/headless/")
-TOOLKIT_ALLOWED = ("src/platform/qt/", "tests/desktop/", "tests/files/", "bench/desktop/")
+TOOLKIT_ALLOWED = (
+    "src/platform/qt/",
+    "tools/stage/",
+    "tests/desktop/",
+    "tests/files/",
+    "bench/desktop/",
+)
 INCLUDE = re.compile(r'\s*#\s*include\s*([<"])([^>"]+)')
 
 
