@@ -1,3 +1,4 @@
+# shellcheck shell=sh
 # Read by the scripts that check the game, in the checkout's folder.
 started=$(date +%s)
 mkdir -p build
