@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <random>
 #include <set>
+#include <stdexcept>
 
 #include <gtest/gtest.h>
 #include <sys/wait.h>
@@ -21,7 +22,9 @@ const std::string defaultSettings = defaultSettingsText();
 /// A directory of the test's own, and the game's below it.
 class Home {
  public:
-  Home() { ::mkdtemp(root_.data()); }
+  Home() {
+    if (::mkdtemp(root_.data()) == nullptr) throw std::runtime_error("no directory for the test");
+  }
   ~Home() { fs::remove_all(root_); }
   Home(const Home&) = delete;
   Home& operator=(const Home&) = delete;

@@ -15,6 +15,7 @@
 #include "play/same_number_choice.h"
 #include "play/screen_scale.h"
 #include "play/size_panel.h"
+#include "play/status.h"
 #include "play/tips.h"
 #include "play/tutorial_end.h"
 #include "script/values.h"
@@ -31,6 +32,14 @@ struct Plain {
 void layPlayCard(MainWindow& w) { layCard(w, w.state.playCard); }
 void uncoverPlayCard(MainWindow& w) { w.card(w.state.playCard).uncover(); }
 
+/// Called by hand with cards left, which play never does, it hands the turn back to the player.
+void endWithComputersHand(MainWindow& w) {
+  if (w.state.cardsLeft[Side::Computer] == 0) return computerHasWon(w);
+  w.state.deadlock = false;
+  announce(w, Announcement::YourTurn);
+  raiseStatus(w);
+}
+
 constexpr std::array plain{
     Plain{"Form_Load", startGame},
     Plain{"Awal", deal},
@@ -38,7 +47,7 @@ constexpr std::array plain{
     Plain{"Cocok", layPlayCard},
     Plain{"moving", glideCard},
     Plain{"player_akhir", afterPlayersCard},
-    Plain{"computer_akhir", computerHasWon},
+    Plain{"computer_akhir", endWithComputersHand},
     Plain{"deadlock", deadlock},
     Plain{"Hitung", showSums},
     Plain{"akhirmain", showResult},

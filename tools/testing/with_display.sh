@@ -24,6 +24,8 @@ read -r number <"$work/number" || { cat "$work/xvfb.log" >&2; exit 1; }
 # The player's own settings and data files play no part.
 export DISPLAY=":$number" QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8
 export XDG_DATA_HOME="$work/data" XDG_CONFIG_HOME="$work/config" XDG_CACHE_HOME="$work/cache"
+mkdir -m 700 "$work/run"
+export XDG_RUNTIME_DIR="$work/run"
 unset WAYLAND_DISPLAY QT_SCALE_FACTOR QT_STYLE_OVERRIDE QT_QPA_PLATFORMTHEME
 
 openbox >"$work/openbox.log" 2>&1 &
