@@ -1,8 +1,6 @@
-// The real window against our measures: opening beside an empty window with as many widgets, a
-// double-click within one frame at 60 Hz (16.7 ms), a rescale within two. Needs a display.
+// The real window's work: a laid card within 2 ms, another size of the table within 8 ms at
+// 3840x2160. Needs a display of that size.
 #include <QApplication>
-#include <QLabel>
-#include <QMainWindow>
 #include <QTemporaryDir>
 
 #include <QtTest/QTest>
@@ -44,34 +42,6 @@ void finishPainting(QWidget& window) {
   (void)QTest::qWaitForWindowExposed(&window);
   window.repaint();
 }
-
-void OpeningTheGame(benchmark::State& state) {
-  for ([[maybe_unused]] auto step : state) {
-    Game game;
-    game.program.start();
-    finishPainting(*mainWidget());
-  }
-}
-BENCHMARK(OpeningTheGame)->Unit(benchmark::kMillisecond);
-
-void OpeningAnEmptyWindow(benchmark::State& state) {
-  qsizetype widgets = 0;
-  {
-    Game game;
-    game.program.start();
-    widgets = mainWidget()->findChildren<QWidget*>().size();
-  }
-  for ([[maybe_unused]] auto step : state) {
-    QMainWindow window;
-    for (qsizetype i = 0; i < widgets; ++i) {
-      auto* label = new QLabel(QString::number(i), &window);
-      label->setGeometry(static_cast<int>(i % 40) * 25, static_cast<int>(i / 40) * 25, 24, 24);
-    }
-    window.showMaximized();
-    finishPainting(window);
-  }
-}
-BENCHMARK(OpeningAnEmptyWindow)->Unit(benchmark::kMillisecond);
 
 void RescalingTheTable(benchmark::State& state) {
   Game game;

@@ -72,7 +72,7 @@ constexpr std::array eventTable{
     Row{EventKind::Menu, "stat", step<openStatistics>},
     Row{EventKind::Menu, "exit", step<chooseExit>},
     Row{EventKind::Menu, "author", step<showAbout>},
-    Row{EventKind::Menu, "tips", step<showTips>},
+    Row{EventKind::Menu, "tips", step<openTips>},
     Row{EventKind::Menu, "go", step<openHomepage>},
     Row{EventKind::Menu, "rufoxx", step<openSizePanel>},
     Row{EventKind::Menu, "scr", step<openSizePanel>},
@@ -95,11 +95,13 @@ bool isPlainLabel(const Control* control) {
 }
 
 /// Keys of the main window: the choice takes its own, Esc cancels it wherever the focus is, and
-/// the keys of the player's turn that the focused control has no use for go to the Discard button,
-/// which takes none while it is hidden.
+/// else closes the panel, and the keys of the player's turn that the focused control has no use for
+/// go to the Discard button, which takes none while it is hidden.
 void pressKey(MainWindow& w, const Event& event) {
   const int key = event.value;
-  if (w.state.choiceOpen && (event.control == &w.choice.keys || key == keyEscape)) {
+  if (!w.state.choiceOpen && key == keyEscape && w.state.sizePanelOpen) {
+    closeSizePanel(w);
+  } else if (w.state.choiceOpen && (event.control == &w.choice.keys || key == keyEscape)) {
     pressKeyOfChoice(w, key);
   } else if (key == keyEnter || key == keySpace) {
     pressDiscard(w);
@@ -110,7 +112,11 @@ void pressKey(MainWindow& w, const Event& event) {
 
 void dispatch(MainWindow& w, const Event& event) {
   if (event.kind == EventKind::KeyPress) {
-    if (event.form == &w.form) pressKey(w, event);
+    if (event.form == &w.form) {
+      pressKey(w, event);
+    } else if (event.value == keyEscape) {
+      dispatch(w, {EventKind::Close, event.form, nullptr, nullptr, 0});
+    }
     return;
   }
   if (event.kind == EventKind::Click && isPlainLabel(event.control)) return;

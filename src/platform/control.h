@@ -44,7 +44,9 @@ struct Control {
   bool visible = true;
   bool enabled = true;
   Layer layer = Layer::Table;
+  bool pinned = false;  ///< keeps its place and size while the rest is fitted into the window
   Frame* parent = nullptr;
+  bool operator==(const Control&) const = default;
 
   /// "k(5)" for an array element, the bare name for a single control.
   [[nodiscard]] std::string fullName() const;
@@ -56,6 +58,7 @@ struct Control {
 struct Box : Control {
   using Control::Control;
   float left = 0, top = 0, width = 0, height = 0;
+  bool operator==(const Box&) const = default;
 };
 
 struct Label : Box {
@@ -64,9 +67,11 @@ struct Label : Box {
   Font font;
   Alignment alignment = Alignment::Left;
   bool bordered = false;
-  bool opaque = true;  ///< painted on its back colour, else on what lies behind it
-  bool link = false;   ///< the pointer over it is a hand
+  bool opaque = true;    ///< painted on its back colour, else on what lies behind it
+  bool link = false;     ///< the pointer over it is a hand, and it can be pressed
+  bool scrolls = false;  ///< a text that may be longer than its box
   Color backColor, foreColor;
+  bool operator==(const Label&) const = default;
 };
 
 struct Button : Box {
@@ -77,20 +82,11 @@ struct Button : Box {
   Color backColor{212, 208, 200}, foreColor;
 };
 
-/// A place in the window, in twips.
-struct Position {
-  float left = 0, top = 0;
-  bool operator==(const Position&) const = default;
-};
-
 /// A bordered panel with children of its own, `children` in depth order from back to front.
 struct Frame : Box {
   Frame() : Box(ControlKind::Frame) {}
   Color backColor;
   std::vector<Control*> children;
-  /// The places it was moved through since it was last presented: a desktop may show them as a
-  /// glide and clears them; the frame itself already stands where the glide ends.
-  std::vector<Position> track;
 };
 
 struct Line : Control {
@@ -98,6 +94,7 @@ struct Line : Control {
   float x1 = 0, y1 = 0, x2 = 0, y2 = 0;
   Color borderColor;
   std::int16_t borderWidth = 1;
+  bool operator==(const Line&) const = default;
 };
 
 struct Shape : Box {
@@ -108,6 +105,7 @@ struct Shape : Box {
   bool dashed = false;  ///< outline drawn dash-dot-dot
   Color borderColor, fillColor;
   std::int16_t borderWidth = 1;
+  bool operator==(const Shape&) const = default;
 };
 
 /// Horizontal scroll bar; `value` stays within `minimum` to `maximum`, both steps are 1.

@@ -57,6 +57,11 @@ void Form::giveFocus(Control& control) {
   if (takesFocus(control) && control.usable()) focus = &control;
 }
 
+bool Form::holds(const Control& control) const {
+  if (control.parent != nullptr) return holds(*control.parent);
+  return std::find(controls.begin(), controls.end(), &control) != controls.end();
+}
+
 void Form::settleFocus() {
   if (focus != nullptr && focus->usable()) return;
   focus = defaultFocus != nullptr && defaultFocus->usable() ? defaultFocus : nullptr;

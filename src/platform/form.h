@@ -32,15 +32,34 @@ struct Timer {
   void goOn() { enabled = true; }
 };
 
+/// A place in the window, in twips.
+struct Position {
+  float left = 0, top = 0;
+  bool operator==(const Position&) const = default;
+};
+
+/// A frame's way in a straight line to where, or near where, it stands by now.
+struct Glide {
+  const Frame* frame;
+  Position from, to;
+};
+
 /// A window.
 struct Form {
   std::string_view name;
   std::string caption;
-  float left = 0, top = 0, width = 0, height = 0;  ///< client size; left and top on the screen
+  /// Client size; the place is in the main window, and 0, 0 for any place that suits.
+  float left = 0, top = 0, width = 0, height = 0;
   bool maximized = false;
   bool visible = false;
   bool enabled = true;
   Color backColor;
+  const Box* whole = nullptr;  ///< what a window of any size shows all of, in its middle
+  /// What a window that may open anywhere shall not lie on.
+  std::vector<const Box*> clearOf;
+  /// How frames were moved since the last time the form was presented, one after the other. A
+  /// desktop may show it, and clears it.
+  std::vector<Glide> glides;
   std::vector<Control*> controls;  ///< depth order from back to front; frames own their children
   std::vector<MenuEntry*> menu;
   Timer* timer = nullptr;
@@ -56,6 +75,8 @@ struct Form {
   void sendToBack(Control& control);
   /// Gives the focus to a usable button or scroll bar; else the focus stays.
   void giveFocus(Control& control);
+  /// Whether a control stands on the window, or in one of its frames.
+  [[nodiscard]] bool holds(const Control& control) const;
   /// Moves the focus off a control that can no longer hold it.
   void settleFocus();
 };

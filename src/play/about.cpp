@@ -5,6 +5,7 @@
 namespace mevracard {
 
 void showAbout(MainWindow& w) {
+  w.keepAboutClear();
   w.desktop.show(w.about.form);
   w.about.form.caption = "About this program";
   w.about.heading.caption = creditsLine;

@@ -43,7 +43,7 @@ void placePopup(MainWindow& w) {
 
 void announceComputersPass(MainWindow& w) {
   GameState& s = w.state;
-  w.form.bringToFront(w.status);
+  bringStatusToFront(w);
   announce(w, Announcement::ComputerPasses);
   selectLastCard(w);
   w.say(computerPassesMessage);

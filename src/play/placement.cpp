@@ -66,15 +66,14 @@ void glideCard(MainWindow& w) {
   const double top0 = frame.top;
   const double distance = target.left * scale - left0;
   const double step = std::floor(distance / 5);
-  frame.track.clear();
   if (step == 0) return;
   const double slope = (target.top * scale - top0) / distance;
-  frame.track.push_back({frame.left, frame.top});
+  const Position from{frame.left, frame.top};
   for (double x = left0; step > 0 ? x <= left0 + distance : x >= left0 + distance; x += step) {
     frame.left = static_cast<float>(x);
     frame.top = static_cast<float>(top0 + slope * (x - left0));
-    frame.track.push_back({frame.left, frame.top});
   }
+  w.form.glides.push_back({&frame, from, {frame.left, frame.top}});
 }
 
 }  // namespace mevracard

@@ -82,6 +82,7 @@ void scaleChoice(Choice& choice, const Scaler& by) {
 
 /// The tutorial and the screen-size panel keep their size.
 void scaleControls(MainWindow& w, const Scaler& by) {
+  by.place(w.table.whole);
   scaleTable(w.table, by);
   for (CardControls& card : w.cards) scaleCard(card, by);
   scaleChoice(w.choice, by);

@@ -1,6 +1,7 @@
 #include "play/size_panel.h"
 
 #include "play/saved_settings.h"
+#include "play/status.h"
 
 namespace mevracard {
 
@@ -8,7 +9,7 @@ void openSizePanel(MainWindow& w) {
   w.state.sizePanelOpen = true;
   w.sizePanel.show(true);
   w.menu.howToPlay.enabled = false;
-  w.form.sendToBack(w.status);
+  sendStatusToBack(w);
 }
 
 void closeSizePanel(MainWindow& w) {

@@ -37,8 +37,18 @@ void announce(MainWindow& w, Announcement announcement) {
   w.status.caption = textOf(announcement, w.state.tutorial.running);
 }
 
-void raiseStatus(MainWindow& w) {
+void bringStatusToFront(MainWindow& w) {
+  w.status.layer = Layer::Panels;
   w.form.bringToFront(w.status);
+}
+
+void sendStatusToBack(MainWindow& w) {
+  w.status.layer = Layer::Table;
+  w.form.sendToBack(w.status);
+}
+
+void raiseStatus(MainWindow& w) {
+  bringStatusToFront(w);
   w.status.visible = true;
 }
 

@@ -6,7 +6,10 @@ namespace mevracard {
 
 /// Writes the status line, and keeps in the state what it says.
 void announce(MainWindow& w, Announcement announcement);
-/// Shows the status line in front of the cards.
+/// In front of everything, panels too; behind everything.
+void bringStatusToFront(MainWindow& w);
+void sendStatusToBack(MainWindow& w);
+/// Shows the status line in front.
 void raiseStatus(MainWindow& w);
 
 }  // namespace mevracard

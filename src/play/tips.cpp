@@ -20,6 +20,11 @@ void appendGeneralTip(MainWindow& w) {
   s.tipText += generalTip(s.openNumber[End::RightTop], s.openNumber[End::LeftBottom]);
 }
 
+void openTips(MainWindow& w) {
+  w.keepAboutClear();
+  showTips(w);
+}
+
 void showTips(MainWindow& w) {
   w.desktop.show(w.about.form);
   w.about.form.caption = "Tips of Game";

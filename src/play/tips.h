@@ -8,7 +8,9 @@ namespace mevracard {
 void resetTip(MainWindow& w);
 /// Appends the general tip to the tip text.
 void appendGeneralTip(MainWindow& w);
-/// Menu Tips of Game: shows the window with the tips heading and a copy of the tip text.
+/// Shows the window with the tips heading and a copy of the tip text, where it was last placed.
 void showTips(MainWindow& w);
+/// Menu Tips of Game: the same, at a place where it hides nothing that the tips speak of.
+void openTips(MainWindow& w);
 
 }  // namespace mevracard

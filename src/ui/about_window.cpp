@@ -21,8 +21,8 @@ void designEmblem(AboutWindow& w) {
   design(w.triangle[2], 3000, 1440, 3240, 2160, activeTitleBar, 3);
   design(w.triangle[3], 3000, 1440, 4440, 2160, activeTitleBar, 3);
   design(w.triangle[4], 1680, 2160, 4440, 2160, emblemBlue, 5);
-  solid(w.cards[0], ShapeForm::Rectangle, {2040, 1800, 495, 735}, handColour, black);
-  solid(w.cards[1], ShapeForm::Rectangle, {3480, 1800, 495, 735}, handColour, black);
+  outline(w.cards[0], ShapeForm::Rectangle, {2040, 1800, 495, 735}, black);
+  outline(w.cards[1], ShapeForm::Rectangle, {3480, 1800, 495, 735}, black);
   design(w.numbers[0], {2040, 1800, 495, 255}, "0",     cardText);
   design(w.numbers[1], {2160, 2280, 255, 255}, "0",     cardText);
   design(w.numbers[2], {3480, 1800, 495, 255}, "Zub",   cardText);
@@ -44,7 +44,8 @@ AboutWindow::AboutWindow() {
   design(link, {120, 720, 5895, 375}, "Click:  " + std::string(homepageAddress), linkText);
   link.link = true;
   designEmblem(*this);
-  design(tip, {120, 1200, 6015, 2175}, "", bodyText);
+  design(tip, {120, 1200, 6015, 2310}, "", bodyText);
+  tip.scrolls = true;
   design(ok, {2760, 2520, 972, 492}, "OK");
 
   form.add(heading, "mainh");

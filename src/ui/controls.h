@@ -33,6 +33,7 @@ struct CardControls {
 
 /// What lies under and around the cards.
 struct TableControls {
+  Shape whole;  ///< the area that table and hands take up; on no window itself
   std::array<Line, 4> border;
   std::array<Line, 2> leftGuides, rightGuides;
   Shape centre;                  ///< the square of the 0-0

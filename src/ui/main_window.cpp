@@ -21,6 +21,15 @@ MainWindow::MainWindow(Desktop& d) : desktop(d) {
 
 double MainWindow::scaleFactor() const { return scaleOf(state.screenValue, state.screenHeight); }
 
+void MainWindow::keepAboutClear() {
+  Form& window = about.form;
+  window.left = window.top = 0;
+  window.clearOf = {&choice.leftBottom, &choice.rightTop, &choice.cancel};
+  for (std::size_t i = 0; i < cardCount; ++i) {
+    if (!state.cards[i].held) window.clearOf.push_back(&cards[i].frame);
+  }
+}
+
 void MainWindow::refresh() {
   for (std::size_t i = 0; i < cardCount; ++i) {
     showNumber(cards[i].upper, state.cards[i].upper);

@@ -44,6 +44,9 @@ struct MainWindow {
   /// The factor between design twips and the table in force.
   [[nodiscard]] double scaleFactor() const;
 
+  /// The About window is to open where it hides neither the chain nor the buttons of the choice.
+  void keepAboutClear();
+
   /// Copies the state into what shows it, settles the focus and presents the windows.
   void present();
   /// The same without the desktop: what `present` would show.

@@ -205,6 +205,7 @@ void addStatusAndChoice(MainWindow& w) {
 
 void addPanel(Form& form, Control& control, std::string_view name) {
   control.layer = Layer::Panels;
+  control.pinned = true;
   form.add(control, name);
 }
 
@@ -250,6 +251,8 @@ void MainWindow::designControls() {
   form.width = 12345;
   form.height = 6855;
   form.maximized = true;
+  place(table.whole, {240, 120, 14640, 10495});
+  form.whole = &table.whole;
   form.timer = &timer;
   form.defaultFocus = &discard;
 

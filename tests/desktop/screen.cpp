@@ -64,15 +64,35 @@ QWidget& Screen::widget(const Control& control) const {
   throw std::runtime_error("not on the screen: " + control.fullName());
 }
 
+std::optional<QRect> Screen::painted(const Control& control) const {
+  for (const auto& window : desktop_.windows()) {
+    if (!window->isVisible()) continue;
+    const double ratio = window->devicePixelRatioF();
+    for (const Item& item : window->canvas().picture()) {
+      if (item.control != &control) continue;
+      const QPoint corner = (QPointF(item.place.topLeft()) / ratio).toPoint();
+      return QRect(window->canvas().mapToGlobal(corner), item.place.size() / ratio);
+    }
+  }
+  return std::nullopt;
+}
+
+QRect Screen::place(const Box& control) const {
+  for (const auto& window : desktop_.windows()) {
+    if (window->form().holds(control)) return window->placeOnScreen(control);
+  }
+  throw std::runtime_error("not on the screen: " + control.fullName());
+}
+
 void Screen::tool(const QStringList& arguments) { QProcess::execute("xdotool", arguments); }
 
-void Screen::click(const Control& control) {
-  const QPoint at = widget(control).mapToGlobal(widget(control).rect().center());
+void Screen::click(const Box& control) {
+  const QPoint at = place(control).center();
   tool({"mousemove", QString::number(at.x()), QString::number(at.y()), "click", "1"});
 }
 
-void Screen::doubleClick(const Control& control) {
-  const QPoint at = widget(control).mapToGlobal(widget(control).rect().center());
+void Screen::doubleClick(const Box& control) {
+  const QPoint at = place(control).center();
   tool({"mousemove", QString::number(at.x()), QString::number(at.y()), "click", "--repeat", "2",
         "--delay", "20", "1"});
 }

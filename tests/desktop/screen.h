@@ -5,6 +5,7 @@
 #include <QTimer>
 #include <QWidget>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -33,13 +34,19 @@ class Screen {
   explicit Screen(int seed = 1, const char* settings = "1/1/99\r\n");
 
   [[nodiscard]] MainWindow& window() { return program_.window(); }
+  [[nodiscard]] const QtDesktop& desktop() const { return desktop_; }
   [[nodiscard]] GameState& state() { return window().state; }
+  /// The widget of a button, a scroll bar or a text.
   [[nodiscard]] QWidget& widget(const Control& control) const;
+  /// Where a control is painted on the screen; none if it is not to be seen.
+  [[nodiscard]] std::optional<QRect> painted(const Control& control) const;
+  /// Where a control stands on the screen.
+  [[nodiscard]] QRect place(const Box& control) const;
   [[nodiscard]] QWidget& mainWidget() const;
 
   void start();
-  void click(const Control& control);
-  void doubleClick(const Control& control);
+  void click(const Box& control);
+  void doubleClick(const Box& control);
   /// A key by its X name ("p", "Return", "alt+f").
   void key(const std::string& name);
   /// Any command of the X test tool, without waiting for what it brings about.

@@ -40,8 +40,7 @@ TEST(Demonstration, EndsOnTheMarkedNumber) {
     ASSERT_TRUE(screen.waitFor([&] { return s.demo.busy; }));
     screen.settle(50);
     const Label& marked = w.card(c.column).lower;
-    const QWidget& label = screen.widget(marked);
-    const QRect target(label.mapToGlobal(QPoint(0, 0)), label.size());
+    const QRect target = screen.place(marked);
     EXPECT_EQ(marked.backColor, (Color{255, 0, 0}));
     if (c.column == 6) screen.shoot("demonstration");
     ASSERT_TRUE(screen.waitFor([&] { return !s.demo.busy; }, 15000));

@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "play/passing.h"
+#include "play/status.h"
 #include "screen.h"
 #include "store/statistics.h"
 #include "texts/tip_text.h"
@@ -48,6 +49,68 @@ TEST(Menus, AnswerAccessKeys) {
   EXPECT_EQ(screen.messages[2], "Aborting makes you lose this game");
 }
 
+// Esc leaves every window and the panel; on the scroll bar Left is smaller and Right larger.
+TEST(Keys, LeaveWindowsAndSizeTheTable) {
+  Screen screen;
+  screen.start();
+  MainWindow& w = screen.window();
+  ASSERT_TRUE(screen.waitFor([&] { return !w.timer.enabled; }));
+  const auto leave = [&](std::initializer_list<const char*> way, const bool& open) {
+    chooseFromMenu(screen, way);
+    ASSERT_TRUE(screen.waitFor([&] { return open; }));
+    screen.key("Escape");
+    EXPECT_TRUE(screen.waitFor([&] { return !open; }));
+  };
+  leave({"alt+h", "a"}, w.about.form.visible);
+  leave({"alt+h", "t"}, w.about.form.visible);
+  leave({"alt+f", "s"}, w.statistics.form.visible);
+  EXPECT_TRUE(w.form.enabled);
+  leave({"alt+o"}, w.state.sizePanelOpen);
+  chooseFromMenu(screen, {"alt+o"});
+  screen.click(w.sizePanel.bar);
+  ASSERT_TRUE(screen.waitFor([&] { return w.form.focus == &w.sizePanel.bar; }));
+  screen.settle(200);  // the click has moved it too
+  const int clicked = w.sizePanel.bar.value;
+  screen.key("Left");
+  EXPECT_TRUE(screen.waitFor([&] { return w.sizePanel.bar.value == clicked - 1; }));
+  screen.key("Right");
+  EXPECT_TRUE(screen.waitFor([&] { return w.sizePanel.bar.value == clicked; }));
+}
+
+/// Whether one control is painted in front of another.
+bool isBefore(Screen& screen, const Control& front, const Control& back) {
+  const auto& canvas = screen.desktop().windows().front()->canvas();
+  const auto rank = [&](const Control& control) {
+    const auto& picture = canvas.picture();
+    return std::find_if(picture.begin(), picture.end(),
+                        [&](const Item& item) { return item.control == &control; });
+  };
+  return rank(back) < rank(front);
+}
+
+// In a small window the status line must be read before the panel, as soon as it says something.
+TEST(SmallWindow, ShowsTheWholeTableAndTheStatusInFront) {
+  Screen screen;
+  screen.start();
+  MainWindow& w = screen.window();
+  ASSERT_TRUE(screen.waitFor([&] { return !w.timer.enabled; }));
+  QWidget& window = screen.mainWidget();
+  window.showNormal();
+  window.resize(window.minimumSize());
+  screen.settle(300);
+  chooseFromMenu(screen, {"alt+o"});
+  EXPECT_TRUE(isBefore(screen, w.sizePanel.ground, w.status));
+  screen.shoot("small-window");
+  for (const Box* box :
+       std::initializer_list<Box*>{&w.card(0).frame, &w.card(13).frame, &w.table.counterHeadings[0],
+                                   &w.table.counterHeadings[3]}) {
+    EXPECT_TRUE(window.geometry().contains(screen.place(*box)));
+  }
+  bringStatusToFront(w);
+  w.present();
+  EXPECT_TRUE(isBefore(screen, w.status, w.sizePanel.ground));
+}
+
 // The longest tip must be read without scrolling.
 TEST(Tips, FitTheirWindow) {
   Screen screen;
@@ -60,6 +123,7 @@ TEST(Tips, FitTheirWindow) {
   for (const auto* bar : screen.widget(w.about.tip).findChildren<QScrollBar*>()) {
     EXPECT_FALSE(bar->isVisible());
   }
+  EXPECT_GE(screen.widget(w.about.tip).font().pixelSize(), 13);
 }
 
 // An open menu must not keep the keyboard from what the game opens over it.
@@ -119,7 +183,7 @@ TEST(SystemEnd, CountsARunningGameOnceWhateverIsOpen) {
 }
 
 QImage pictureOfTable(Screen& screen) {
-  screen.settle(200);
+  screen.settle(800);  // no card glides any more
   return screen.mainWidget().grab().toImage();
 }
 

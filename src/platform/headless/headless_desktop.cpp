@@ -11,17 +11,11 @@ void HeadlessDesktop::attach(std::vector<Form*> forms, std::function<void(const 
   forms_ = std::move(forms);
   handler_ = std::move(handler);
   visible_.clear();
-  frames_.clear();
-  for (const Form* form : forms_) {
-    for (Control* control : form->controls) {
-      if (control->kind == ControlKind::Frame) frames_.push_back(static_cast<Frame*>(control));
-    }
-  }
   running_ = true;
 }
 
 void HeadlessDesktop::present() {
-  for (Frame* frame : frames_) frame->track.clear();
+  for (Form* form : forms_) form->glides.clear();
 }
 
 void HeadlessDesktop::show(Form& form) {
@@ -63,13 +57,9 @@ Control* HeadlessDesktop::focus() const {
 }
 
 Form* HeadlessDesktop::formOf(const Control& control) const {
-  const Control* top = &control;
-  while (top->parent != nullptr) top = top->parent;
-  for (Form* form : forms_) {
-    const auto& controls = form->controls;
-    if (std::find(controls.begin(), controls.end(), top) != controls.end()) return form;
-  }
-  return nullptr;
+  const auto form = std::find_if(forms_.begin(), forms_.end(),
+                                 [&control](const Form* f) { return f->holds(control); });
+  return form == forms_.end() ? nullptr : *form;
 }
 
 Attempt HeadlessDesktop::reach(const Form& form) const {

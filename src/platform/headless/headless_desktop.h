@@ -84,7 +84,6 @@ class HeadlessDesktop : public Desktop {
   std::function<void(const Event&)> handler_;
   std::vector<Form*> forms_;
   std::vector<Form*> visible_;  ///< the active window last
-  std::vector<Frame*> frames_;
   SeededRandom random_;
   bool running_ = false;
 };

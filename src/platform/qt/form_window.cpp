@@ -6,9 +6,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/qt/button_widget.h"
 #include "platform/qt/look.h"
-#include "platform/qt/scroll_bar_widget.h"
+#include "platform/qt/placing.h"
+#include "platform/view.h"
 
 namespace mevracard {
 
@@ -41,23 +41,17 @@ int keyCodeOf(const QKeyEvent& event) {
   return text.size() == 1 && text[0].isPrint() ? text[0].unicode() : 0;
 }
 
-/// A widget that has the keyboard without the game's knowing: a link, the scroll bar of a text.
-bool isOutsideTheModel(const QWidget& widget) {
-  return dynamic_cast<const ButtonWidget*>(&widget) == nullptr &&
-         dynamic_cast<const ScrollBarWidget*>(&widget) == nullptr;
-}
-
 }  // namespace
 
-FormWindow::FormWindow(Form& form, Deliver deliver, QWidget* mainWindow)
+FormWindow::FormWindow(Form& form, Deliver deliver, FormWindow* mainWindow)
     : QMainWindow(mainWindow, flagsOf(mainWindow)),
       form_(form),
       deliver_(std::move(deliver)),
-      client_(new Surface(form.controls, *this, *this)),
-      glides_(*client_) {
+      main_(mainWindow),
+      canvas_(new Canvas(form, *this, *this)) {
   setObjectName(toText(form.name));
-  setCentralWidget(client_);
-  const QSize size(static_cast<int>(toPixels(form.width)), static_cast<int>(toPixels(form.height)));
+  setCentralWidget(canvas_);
+  const QSize size = (QSizeF(form.width, form.height) / twipsPerDesignPixel).toSize();
   if (!form.menu.empty()) {
     menu_ = std::make_unique<Menu>(*menuBar(), form.menu, [this](MenuEntry& entry) {
       deliver_({EventKind::Menu, &form_, nullptr, &entry, 0});
@@ -77,17 +71,16 @@ void FormWindow::flush() {
   flushing_ = true;
   setWindowTitle(toText(form_.caption));
   const Position position{form_.left, form_.top};
-  if (std::exchange(flushedPosition_, position) != position) placeOnScreen();
+  if (std::exchange(flushedPosition_, position) != position && main_ != nullptr) moveToItsPlace();
   if (menu_ != nullptr) {
     menu_->flush();
     menuBar()->setEnabled(form_.enabled);
   }
-  client_->setEnabled(form_.enabled);
-  client_->flush(form_.backColor);
+  canvas_->setEnabled(form_.enabled);
+  canvas_->flush();
   flushTimer();
   flushFocus();
   flushing_ = false;
-  glides_.start();
 }
 
 void FormWindow::flushTimer() {
@@ -104,13 +97,12 @@ void FormWindow::flushTimer() {
 }
 
 void FormWindow::flushFocus() {
-  QWidget* now = focusWidget();
-  const bool playersOwn = now != nullptr && isOutsideTheModel(*now) && now->isVisible();
+  QWidget& wanted = canvas_->keyboardOf(form_.focus);
   const bool asBefore = form_.focus == std::exchange(flushedFocus_, form_.focus);
-  if (playersOwn && asBefore) return;
-  // The client area takes the keyboard for want of another, lest the toolkit give it to a link.
-  QWidget* wanted = form_.focus != nullptr ? widgetOf(*form_.focus) : client_;
-  if (wanted != nullptr && now != wanted) wanted->setFocus(Qt::OtherFocusReason);
+  // The player may have taken it to a link or a text, of which the game knows nothing.
+  const QWidget* now = focusWidget();
+  if (asBefore && now != nullptr && now->isVisible() && canvas_->isPlayersOwn(*now)) return;
+  if (now != &wanted) wanted.setFocus(Qt::OtherFocusReason);
 }
 
 void FormWindow::open() {
@@ -119,27 +111,43 @@ void FormWindow::open() {
     setWindowState(windowState() & ~Qt::WindowMinimized);
     if (!isVisible()) showMaximized();
   } else {
-    if (!isVisible()) placeOnScreen();
+    if (!isVisible()) moveToItsPlace();
     showNormal();
   }
   raise();
   activateWindow();
 }
 
-void FormWindow::placeOnScreen() {
-  const QRect room = screen()->availableGeometry();
-  QRect place(QPoint(), size());
-  if (form_.left != 0 || form_.top != 0) {
-    place.moveTopLeft(QPointF(toPixels(form_.left), toPixels(form_.top)).toPoint());
-  } else {
-    place.moveCenter(parentWidget() != nullptr ? areaOf(*parentWidget()).center() : room.center());
-  }
-  const int right = std::max(room.left(), room.right() - place.width());
-  const int bottom = std::max(room.top(), room.bottom() - place.height());
-  move(std::clamp(place.left(), room.left(), right), std::clamp(place.top(), room.top(), bottom));
+void FormWindow::moveToItsPlace() {
+  move(placeInside(frameGeometry().size(), screen()->availableGeometry(), itsPlace()));
 }
 
-QWidget* FormWindow::widgetOf(const Control& control) const { return client_->widgetOf(control); }
+QPoint FormWindow::itsPlace() const {
+  const Canvas& table = *main_->canvas_;
+  if (form_.left != 0 || form_.top != 0) {
+    return table.mapToGlobal(table.toPixels(Position{form_.left, form_.top}));
+  }
+  std::vector<QRect> clear;
+  constexpr int gap = 6;  // pixels
+  for (const Box* box : form_.clearOf) {
+    clear.push_back(main_->placeOnScreen(*box).adjusted(-gap, -gap, gap, gap));
+  }
+  // Before it is shown its frame is unknown, but not unlike the main window's.
+  const QSize frame = main_->frameGeometry().size() - main_->size();
+  return clearPlace(size() + frame, screen()->availableGeometry(), areaOf(*main_), clear);
+}
+
+QRect FormWindow::placeOnScreen(const Box& control) const {
+  const QRect place = canvas_->placeOf(control);
+  return {canvas_->mapToGlobal(place.topLeft()), place.size()};
+}
+
+QPoint FormWindow::middle() const {
+  // A window that is about to fill the screen has another size yet.
+  const QRect screens = areaOf(*this);
+  if (width() < screens.width()) return screens.center() + QPoint(0, canvas_->y() / 2);
+  return canvas_->mapToGlobal(canvas_->rect().center());
+}
 
 void FormWindow::send(EventKind kind, Control& control, int value) {
   deliver_({kind, &form_, &control, nullptr, value});
@@ -168,8 +176,12 @@ void FormWindow::passKeyboardOn() {
 
 void FormWindow::keyPressEvent(QKeyEvent* event) {
   const int key = keyCodeOf(*event);
-  const bool usable = form_.enabled && form_.focus != nullptr && form_.focus->usable();
-  if (key != 0 && usable) deliver_(keyEvent(form_, key));
+  if (key == 0 || !form_.enabled) return;
+  if (form_.focus != nullptr && form_.focus->usable()) {
+    deliver_(keyEvent(form_, key));
+  } else if (key == keyEscape) {  // leaves a window also where nothing has the focus
+    deliver_({EventKind::KeyPress, &form_, nullptr, nullptr, key});
+  }
 }
 
 void FormWindow::tick() {
@@ -186,13 +198,8 @@ void FormWindow::closeEvent(QCloseEvent* event) {
   if (form_.enabled) deliver_({EventKind::Close, &form_, nullptr, nullptr, 0});
 }
 
-void FormWindow::resizeEvent(QResizeEvent* event) {
-  glides_.endAll();
-  QMainWindow::resizeEvent(event);
-}
-
 void FormWindow::hideEvent(QHideEvent* event) {
-  glides_.endAll();
+  canvas_->endGlides();
   QMainWindow::hideEvent(event);
 }
 

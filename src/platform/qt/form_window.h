@@ -6,29 +6,30 @@
 #include <memory>
 
 #include "platform/event.h"
-#include "platform/qt/glides.h"
+#include "platform/qt/canvas.h"
 #include "platform/qt/menu.h"
-#include "platform/qt/surface.h"
-#include "platform/qt/widget_host.h"
 
 namespace mevracard {
 
 /// A Form on the screen: the first one is the main window, the others stay in front of it.
-class FormWindow final : public QMainWindow, private WidgetHost {
+class FormWindow final : public QMainWindow, private ControlEvents {
  public:
   /// Gets every event; false if it cannot be taken now.
   using Deliver = std::function<bool(const Event&)>;
 
-  FormWindow(Form& form, Deliver deliver, QWidget* mainWindow);
-  ~FormWindow() override { glides_.endAll(); }
+  /// `mainWindow` is null for the main window itself.
+  FormWindow(Form& form, Deliver deliver, FormWindow* mainWindow);
 
   [[nodiscard]] Form& form() const { return form_; }
   /// Brings it up to date with its form.
   void flush();
   /// Shows it in front, with the keyboard.
   void open();
-  /// The widget of a control; null for lines and shapes.
-  [[nodiscard]] QWidget* widgetOf(const Control& control) const;
+  [[nodiscard]] const Canvas& canvas() const { return *canvas_; }
+  /// The place of a control on the screen, in logical pixels.
+  [[nodiscard]] QRect placeOnScreen(const Box& control) const;
+  /// Where a box that concerns the whole table stands in the middle.
+  [[nodiscard]] QPoint middle() const;
   /// Delivers a tick that could not be taken when it came.
   void deliverDueTick();
 
@@ -36,18 +37,14 @@ class FormWindow final : public QMainWindow, private WidgetHost {
   bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
-  void resizeEvent(QResizeEvent* event) override;
   void hideEvent(QHideEvent* event) override;
 
  private:
   void send(EventKind kind, Control& control, int value) override;
   void focusMoved(Control& control, Qt::FocusReason reason) override;
-  Glides& glides() override { return glides_; }
-  bool tabReaches(const Control& keysOnly) const override {
-    return form_.defaultFocus == &keysOnly;
-  }
 
-  void placeOnScreen();
+  void moveToItsPlace();
+  [[nodiscard]] QPoint itsPlace() const;
   /// Gives the keyboard to a window in front that takes events.
   void passKeyboardOn();
   void flushTimer();
@@ -56,8 +53,8 @@ class FormWindow final : public QMainWindow, private WidgetHost {
 
   Form& form_;
   Deliver deliver_;
-  Surface* client_;
-  Glides glides_;
+  FormWindow* main_;
+  Canvas* canvas_;
   std::unique_ptr<Menu> menu_;
   QTimer timer_;
   unsigned armings_ = 0;

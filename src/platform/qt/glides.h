@@ -1,49 +1,36 @@
 #pragma once
 
-#include <QElapsedTimer>
-#include <QLabel>
 #include <QObject>
-#include <QTimer>
-#include <memory>
+#include <QVariantAnimation>
+#include <functional>
 #include <vector>
+
+#include "platform/form.h"
 
 namespace mevracard {
 
-/// Shows widgets that have moved as pictures gliding to their place. The widget itself stands where
-/// it belongs from the first moment and takes the mouse there; only its picture is late.
+/// Frames on their way to where they belong: those of one turn one after the other. A frame takes
+/// the mouse in its place from the first moment; only its picture is late.
 class Glides final : public QObject {
  public:
-  explicit Glides(QWidget& canvas);
-  ~Glides() override { endAll(); }
+  /// `changed` is called whenever a frame has moved on.
+  explicit Glides(std::function<void()> changed);
 
-  /// A child of the canvas is to glide along these points, in logical pixels, once all is flushed.
-  void plan(QWidget& widget, std::vector<QPointF> path);
-  /// Starts what was planned. Where motion is not wanted, or cannot be seen, nothing glides.
-  void start();
-  /// Ends the glide of a widget, or all of them: each widget then shows in its place.
-  void end(const QWidget& widget);
-  void endAll();
+  /// Starts these, in place of any before.
+  void start(std::vector<Glide> glides);
+  /// Every frame is where it belongs, at once.
+  void end();
+  /// Where a frame is to be painted.
+  [[nodiscard]] Position placeOf(const Frame& frame) const;
 
  protected:
   /// Ends all glides before a mouse button or a key does anything.
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  struct Glide {
-    QWidget* widget;
-    std::vector<QPointF> path;
-    std::unique_ptr<QLabel> picture;
-    QElapsedTimer time;
-  };
-
-  void begin(Glide glide);
-  void advance();
-  static void finish(Glide& glide);
-  void stopIfDone();
-
-  QWidget& canvas_;
-  std::vector<Glide> planned_, running_;
-  QTimer frame_;
+  std::function<void()> changed_;
+  std::vector<Glide> glides_;  ///< those under way
+  QVariantAnimation clock_;    ///< runs from 0 to their number
 };
 
 }  // namespace mevracard

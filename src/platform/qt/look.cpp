@@ -1,6 +1,7 @@
 #include "platform/qt/look.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QPalette>
 #include <QScreen>
 #include <QStyleFactory>
@@ -12,10 +13,7 @@ namespace mevracard {
 
 namespace {
 
-constexpr double farAway = 100000;
 constexpr double largestFont = 500;
-
-int roundedPixels(float twips) { return static_cast<int>(std::lround(toPixels(twips))); }
 
 QStringList familiesOf(std::string_view family) {
   if (family == "Times New Roman") return {"Liberation Serif", "Times New Roman", "Times", "serif"};
@@ -38,24 +36,14 @@ QPalette lightPalette() {
 
 }  // namespace
 
-double toPixels(float twips) {
-  const double pixels = static_cast<double>(twips) / twipsPerLogicalPixel;
-  return std::isnan(pixels) ? 0 : std::clamp(pixels, -farAway, farAway);
-}
-
-QRect toPixelRect(const Box& box) {
-  return {roundedPixels(box.left), roundedPixels(box.top), std::max(0, roundedPixels(box.width)),
-          std::max(0, roundedPixels(box.height))};
-}
-
 QColor toColor(Color color) { return {color.red, color.green, color.blue}; }
 
-QFont toFont(const Font& font) {
+QFont toFont(const Font& font, double dotsPerPixel) {
   constexpr double pixelsPerPoint = 96.0 / 72.0;
   // Rather a little larger than smaller: small digits are hard to read, and captions that do not
   // fit are made smaller anyway.
   constexpr double smallestStepUp = 0.25;
-  const double wanted = font.size * pixelsPerPoint;
+  const double wanted = font.size * pixelsPerPoint * dotsPerPixel;
   const double pixels = wanted >= 1 ? std::min(wanted, largestFont) : 1;  // also if no number
   QFont result;
   result.setFamilies(familiesOf(font.family));
@@ -77,7 +65,9 @@ QRect areaOf(const QWidget& window) {
 void applyLook() {
   QApplication::setStyle(QStyleFactory::create("Fusion"));
   QApplication::setPalette(lightPalette());
-  QApplication::setFont(toFont({"MS Sans Serif", 9.75F}));
+  QApplication::setWindowIcon(QIcon(":/mevracard.png"));
+  QApplication::setLayoutDirection(Qt::LeftToRight);
+  QApplication::setFont(toFont({"MS Sans Serif", 9.75F}, 1));
 }
 
 }  // namespace mevracard

@@ -10,19 +10,12 @@
 
 class QWidget;
 
-/// How the plain data of a window turns into pixels, colours, fonts and texts of the toolkit.
+/// How the plain data of a window turns into colours, fonts and texts of the toolkit.
 namespace mevracard {
 
-constexpr double twipsPerLogicalPixel = 15;
-
-/// Logical pixels, with their fraction. What lies absurdly far away is drawn in to a place that
-/// still counts in whole numbers.
-[[nodiscard]] double toPixels(float twips);
-/// The box on whole pixels: boxes of one size, such as cards, keep one size wherever they stand.
-[[nodiscard]] QRect toPixelRect(const Box& box);
 [[nodiscard]] QColor toColor(Color color);
-/// The font in whole logical pixels, by its size in points at 96 dots per inch.
-[[nodiscard]] QFont toFont(const Font& font);
+/// The font in whole dots, where a pixel at 96 dots per inch is this many of them.
+[[nodiscard]] QFont toFont(const Font& font, double dotsPerPixel);
 /// Text with line ends as the toolkit wants them.
 [[nodiscard]] QString toText(std::string_view text);
 

@@ -1,7 +1,9 @@
 #include "platform/qt/menu.h"
 
+#include <QActionGroup>
 #include <QApplication>
 #include <QMenu>
+#include <algorithm>
 #include <utility>
 
 #include "platform/qt/look.h"
@@ -20,13 +22,21 @@ Menu::Menu(QMenuBar& bar, const std::vector<MenuEntry*>& entries,
 }
 
 void Menu::add(QWidget& parent, const std::vector<MenuEntry*>& entries) {
+  // Of entries with a check mark exactly one has it.
+  const bool choice = std::any_of(entries.begin(), entries.end(),
+                                  [](const MenuEntry* entry) { return entry->checked; });
+  QActionGroup* group = choice ? new QActionGroup(&parent) : nullptr;
   for (MenuEntry* entry : entries) {
     auto* action = new QAction(toText(entry->caption), &parent);
     action->setObjectName(toText(entry->name));
     parent.addAction(action);
+    if (choice) group->addAction(action)->setCheckable(true);
     items_.push_back({entry, action});
     if (entry->entries.empty()) {
-      QObject::connect(action, &QAction::triggered, &parent, [this, entry] { chosen_(*entry); });
+      QObject::connect(action, &QAction::triggered, &parent, [this, entry] {
+        chosen_(*entry);
+        flush();
+      });
     } else {
       auto* menu = new QMenu(&parent);
       action->setMenu(menu);
@@ -38,8 +48,7 @@ void Menu::add(QWidget& parent, const std::vector<MenuEntry*>& entries) {
 void Menu::flush() {
   for (const Item& item : items_) {
     item.action->setEnabled(item.entry->enabled);
-    item.action->setCheckable(item.entry->checked);
-    item.action->setChecked(item.entry->checked);
+    if (item.entry->checked) item.action->setChecked(true);
   }
 }
 

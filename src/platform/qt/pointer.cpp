@@ -41,6 +41,7 @@ class Arrow final : public QWidget {
 
 /// Whether the system's pointer went there, as far as the screen reaches.
 bool moveSystemPointer(QPoint target) {
+  if (QGuiApplication::platformName().startsWith("wayland")) return false;  // it only complains
   const QRect screens = QGuiApplication::primaryScreen()->virtualGeometry();
   const QPoint reachable(std::clamp(target.x(), screens.left(), screens.right()),
                          std::clamp(target.y(), screens.top(), screens.bottom()));

@@ -9,11 +9,11 @@
 #include <cmath>
 #include <utility>
 
-#include "platform/qt/accessibility.h"
 #include "platform/qt/look.h"
 #include "platform/qt/menu.h"
 #include "platform/qt/message_box.h"
 #include "platform/qt/reduced_motion.h"
+#include "platform/view.h"
 
 namespace mevracard {
 
@@ -35,7 +35,6 @@ QtDesktop::QtDesktop(const QString& dataDir, const std::vector<DefaultFile>& def
     : files_(dataDir, defaults) {
   applyLook();
   askAboutMotion();
-  describeControls();
   QGuiApplication::setQuitOnLastWindowClosed(false);
   dueTicks_.setSingleShot(true);
   QObject::connect(&dueTicks_, &QTimer::timeout, &dueTicks_, [this] { deliverDueTicks(); });
@@ -59,7 +58,7 @@ FormWindow& QtDesktop::windowOf(Form& form) {
     if (&window->form() == &form) return *window;
   }
   const bool isMain = &form == forms_.front();
-  QWidget* mainWindow = isMain ? nullptr : &windowOf(*forms_.front());
+  FormWindow* mainWindow = isMain ? nullptr : &windowOf(*forms_.front());
   windows_.push_back(std::make_unique<FormWindow>(
       form, [this](const Event& event) { return deliver(event); }, mainWindow));
   if (isMain) pointer_ = std::make_unique<Pointer>(*windows_.back());
@@ -110,7 +109,8 @@ void QtDesktop::showBox(QMessageBox::Icon icon, std::string_view text) {
   const Busy busy(*this);
   QWidget* parent = QApplication::activeWindow();
   if (parent == nullptr && !windows_.empty()) parent = windows_.front().get();
-  showMessageBox(parent, icon, toText(forms_.front()->caption), toText(text));
+  const QPoint middle = windows_.empty() ? QPoint() : windows_.front()->middle();
+  showMessageBox(parent, middle, icon, toText(forms_.front()->caption), toText(text));
   if (endingBySystem_) throw EndedBySystem();
 }
 
@@ -133,7 +133,7 @@ int QtDesktop::screenHeight() const {
   return pixels * twipsPerPixel();
 }
 
-int QtDesktop::twipsPerPixel() const { return static_cast<int>(twipsPerLogicalPixel); }
+int QtDesktop::twipsPerPixel() const { return static_cast<int>(twipsPerDesignPixel); }
 
 void QtDesktop::movePointer(int x, int y) {
   if (pointer_ != nullptr) pointer_->moveTo({x, y});
@@ -141,9 +141,8 @@ void QtDesktop::movePointer(int x, int y) {
 
 std::optional<ScreenPoint> QtDesktop::centreOnScreen(const Box& control) const {
   for (const auto& window : windows_) {
-    const QWidget* widget = window->widgetOf(control);
-    if (widget == nullptr || !window->isVisible()) continue;
-    const QPointF centre = widget->mapToGlobal(QRectF(widget->rect()).center());
+    if (!window->isVisible() || !window->form().holds(control)) continue;
+    const QPointF centre = QRectF(window->placeOnScreen(control)).center();
     return ScreenPoint{centre.x(), centre.y()};
   }
   return std::nullopt;

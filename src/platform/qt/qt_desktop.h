@@ -24,6 +24,8 @@ class QtDesktop : public Desktop {
   /// Runs the event loop until the program ends. Gives the program's exit status.
   int run();
 
+  [[nodiscard]] const std::vector<std::unique_ptr<FormWindow>>& windows() const { return windows_; }
+
   void attach(std::vector<Form*> forms, std::function<void(const Event&)> handler) override;
   void present() override;
   void show(Form& form) override;

@@ -1,0 +1,34 @@
+"""compare_openings.py OPENING [ROUNDS]: the game's opening beside an empty window's, in turn.
+
+OPENING is the program built of opening.cpp. Prints the medians of the time until all is painted and
+of the memory, and what the game takes of the empty window's. Needs a display:
+
+    tools/testing/with_display.sh 1920x1080 python3 bench/desktop/compare_openings.py \\
+        build/release/bench/opening
+"""
+
+import statistics
+import subprocess
+import sys
+import time
+
+
+def opening(what):
+    spawned = str(time.monotonic_ns() // 1000)
+    printed = subprocess.run(
+        [sys.argv[1], what, spawned], capture_output=True, text=True, check=True, timeout=60
+    ).stdout
+    return [int(number) for number in printed.split()]
+
+
+rounds = int(sys.argv[2]) if len(sys.argv) > 2 else 20
+kinds = ("game", "empty")
+figures = {kind: [] for kind in kinds}
+for number in range(rounds + 1):
+    for kind in kinds:
+        figure = opening(kind)
+        if number > 0:  # the first round warms the caches
+            figures[kind].append(figure)
+for column, (name, unit) in enumerate((("painted after", 1000), ("memory", 1024))):
+    game, empty = (statistics.median(row[column] for row in figures[kind]) / unit for kind in kinds)
+    print(f"{name:14} game {game:7.1f}  empty {empty:7.1f}  {game / empty:.3f}")

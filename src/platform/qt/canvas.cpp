@@ -1,0 +1,111 @@
+#include "platform/qt/canvas.h"
+
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <algorithm>
+#include <utility>
+
+#include "platform/qt/look.h"
+#include "platform/qt/paint.h"
+
+namespace mevracard {
+
+Canvas::Canvas(Form& form, ControlEvents& events, QWidget& parent)
+    : QWidget(&parent),
+      form_(form),
+      events_(events),
+      glides_([this] { repaintChanges(); }),
+      widgets_(form, events, *this) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+Views Canvas::viewsNow() const {
+  const double ratio = devicePixelRatioF();
+  const QSize size = (QSizeF(this->size()) * ratio).toSize();
+  const View plain = View::plain(ratio);
+  if (form_.whole == nullptr) return {plain, plain, size};
+  return {View::fitted(*form_.whole, size.width(), size.height(), ratio), plain, size};
+}
+
+void Canvas::flush() {
+  const Control* fallback = form_.defaultFocus;
+  const bool holdsKeyboard = fallback != nullptr && fallback->usable() && !isWidget(*fallback);
+  setFocusPolicy(holdsKeyboard ? Qt::TabFocus : Qt::NoFocus);
+  if (auto glides = std::exchange(form_.glides, {}); isVisible() && !window()->isMinimized()) {
+    glides_.start(std::move(glides));
+  }
+  repaintChanges();
+}
+
+void Canvas::repaintChanges() {
+  views_ = viewsNow();
+  const Picture before = std::exchange(picture_, pictureOf(form_, views_, glides_));
+  if (std::exchange(backColor_, form_.backColor) != form_.backColor || before.empty()) {
+    update();
+  } else {
+    for (const QRect& dots : difference(before, picture_)) update(toPixels(dots));
+  }
+  widgets_.flush(views_);
+}
+
+QRect Canvas::toPixels(const QRect& dots) const {
+  const double ratio = devicePixelRatioF();
+  return QRectF(QPointF(dots.topLeft()) / ratio, QSizeF(dots.size()) / ratio)
+      .toAlignedRect()
+      .adjusted(-1, -1, 1, 1);
+}
+
+QPoint Canvas::toPixels(Position twips) const {
+  const QPointF dots(views_.table.x(twips.left), views_.table.y(twips.top));
+  return (dots / devicePixelRatioF()).toPoint();
+}
+
+QRect Canvas::placeOf(const Box& control) const {
+  if (const QWidget* widget = widgets_.of(control)) return widget->geometry();
+  const QRectF dots(views_.placeOf(control));
+  const double ratio = devicePixelRatioF();
+  return QRectF(dots.topLeft() / ratio, dots.size() / ratio).toRect();
+}
+
+Control* Canvas::controlAt(QPointF point) const {
+  const QPoint dot = (point * devicePixelRatioF()).toPoint();
+  const auto hit = std::find_if(picture_.rbegin(), picture_.rend(), [dot](const Item& item) {
+    const bool takesMouse =
+        item.control->kind == ControlKind::Label || item.control->kind == ControlKind::Frame;
+    return takesMouse && item.place.contains(dot);
+  });
+  return hit == picture_.rend() ? nullptr : hit->control;
+}
+
+QWidget& Canvas::keyboardOf(const Control* control) {
+  QWidget* own = control != nullptr ? widgets_.of(*control) : nullptr;
+  return own != nullptr ? *own : *this;
+}
+
+void Canvas::paintEvent(QPaintEvent* event) {
+  // The window may have moved to a screen with other dots.
+  if (viewsNow() != views_) repaintChanges();
+  DotPainter painter(*this);
+  painter.fillRect(QRect(QPoint(), views_.size).adjusted(-1, -1, 1, 1), toColor(backColor_));
+  for (const Item& item : picture_) {
+    if (event->region().intersects(toPixels(item.bounds()))) paint(painter, item);
+  }
+}
+
+void Canvas::resizeEvent(QResizeEvent* /*event*/) {
+  glides_.end();
+  repaintChanges();
+}
+
+void Canvas::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  if (Control* control = controlAt(event->position())) {
+    events_.send(EventKind::DoubleClick, *control);
+  }
+}
+
+void Canvas::focusInEvent(QFocusEvent* event) {
+  if (form_.defaultFocus != nullptr) events_.focusMoved(*form_.defaultFocus, event->reason());
+}
+
+}  // namespace mevracard

@@ -1,0 +1,213 @@
+#include "platform/qt/paint.h"
+
+#include <QPainterPath>
+#include <QPixmapCache>
+#include <QPushButton>
+#include <cmath>
+
+#include "platform/qt/look.h"
+
+namespace mevracard {
+
+namespace {
+
+constexpr double smallestShare = 0.6;  // of the font's size
+constexpr double digitShare = 0.8;     // of a number box's height
+constexpr double digitHeight = 0.7;    // of a font's size
+
+int flagOf(Alignment alignment) {
+  if (alignment == Alignment::Centre) return Qt::AlignHCenter;
+  return alignment == Alignment::Right ? Qt::AlignRight : Qt::AlignLeft;
+}
+
+/// Writes a caption in the largest font, from `font` down to one that can still be read, in which
+/// it fits its room, with line breaks where the room is high enough for them.
+void write(QPainter& painter, const QRect& room, QString text, QFont font, Alignment alignment) {
+  while (text.endsWith(' ')) text.chop(1);  // these may stand outside
+  const bool inTheMiddle =
+      alignment == Alignment::Centre || room.height() < 2 * QFontMetrics(font).height();
+  const int flags =
+      flagOf(alignment) | Qt::TextWordWrap | (inTheMiddle ? Qt::AlignVCenter : Qt::AlignTop);
+  const int smallest = qMax(1, qRound(font.pixelSize() * smallestShare));
+  QSize all;
+  for (int size = font.pixelSize(); size >= smallest; --size) {
+    font.setPixelSize(size);
+    all = QFontMetrics(font).boundingRect(room, flags, text).size();
+    if (all.width() <= room.width() && all.height() <= room.height()) break;
+  }
+  if (2 * room.height() < all.height()) return;  // something else stands in its place
+  painter.setFont(font);
+  painter.drawText(room, flags | Qt::TextDontClip, text);
+}
+
+/// The band of `width` dots along a line that is upright or level, ends included.
+QRectF band(QPointF from, QPointF to, int width) {
+  const QRectF line = QRectF(from, to).normalized();
+  return {std::round(line.left() - width / 2.0), std::round(line.top() - width / 2.0),
+          std::round(line.width()) + width, std::round(line.height()) + width};
+}
+
+void paintLook(QPainter& painter, const Item& item, const Line& line) {
+  const View& view = item.view;
+  const QPointF from(view.x(line.x1), view.y(line.y1));
+  const QPointF to(view.x(line.x2), view.y(line.y2));
+  const int width = view.border(line.borderWidth);
+  if (from.x() == to.x() || from.y() == to.y()) {
+    painter.fillRect(band(from, to, width), toColor(line.borderColor));
+    return;
+  }
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(toColor(line.borderColor), width, Qt::SolidLine, Qt::RoundCap));
+  painter.drawLine(from, to);
+}
+
+void paintLook(QPainter& painter, const Item& item, const Shape& shape) {
+  const View& view = item.view;
+  const int width = shape.outlined ? view.border(shape.borderWidth) : 0;
+  const QRectF outer =
+      band(item.place.topLeft(), QPointF(item.place.bottomRight()) + QPointF(1, 1), width);
+  const double half = width / 2.0;
+  const QRectF middle = outer.adjusted(half, half, -half, -half);
+  QPen pen(Qt::NoPen);
+  if (shape.outlined) {
+    pen = QPen(toColor(shape.borderColor), width, shape.dashed ? Qt::DashDotDotLine : Qt::SolidLine,
+               Qt::FlatCap, Qt::MiterJoin);
+  }
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(pen);
+  painter.setBrush(shape.filled ? QBrush(toColor(shape.fillColor)) : Qt::NoBrush);
+  const double radius = std::min(middle.width(), middle.height()) / 5;
+  switch (shape.form) {
+    case ShapeForm::Ellipse:
+      painter.drawEllipse(middle);
+      break;
+    case ShapeForm::RoundedRectangle:
+      painter.drawRoundedRect(middle, radius, radius);
+      break;
+    case ShapeForm::Rectangle:
+      painter.drawRect(middle);
+  }
+}
+
+/// A card without its numbers: rounded, with a dark edge and a soft shadow, or with a broad edge in
+/// its mark's colour.
+void paintCard(QPainter& painter, const QRectF& place, const FrameLook& frame) {
+  const QColor back = toColor(frame.backColor);
+  const auto fill = [&painter](const QRectF& rect, double radius, const QColor& color) {
+    painter.setBrush(color);
+    painter.drawRoundedRect(rect, radius, radius);
+  };
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  for (double share = 0.5; share > 0; share -= 0.125) {
+    const double d = share * frame.shadow;
+    fill(place.adjusted(-d / 2, 0, d, d * 1.5), frame.corner + d / 2, QColor(0, 40, 0, 20));
+  }
+  const int edge = frame.edge;
+  fill(place, frame.corner, frame.mark == frame.backColor ? back.darker(400) : toColor(frame.mark));
+  fill(place.adjusted(edge, edge, -edge, -edge), std::max(0.0, frame.corner - edge), back);
+}
+
+/// Cards that look the same are painted once.
+void paintLook(QPainter& painter, const Item& item, const FrameLook& frame) {
+  const QRect bounds = item.bounds();
+  const QRect place = item.place.translated(-bounds.topLeft());
+  const QColor colors[] = {toColor(frame.backColor), toColor(frame.mark)};
+  const QString key = QString("card %1 %2 %3 %4")
+                          .arg(place.width())
+                          .arg(place.height())
+                          .arg(colors[0].rgb())
+                          .arg(colors[1].rgb());
+  QPixmap card;
+  if (!QPixmapCache::find(key, &card)) {
+    card = QPixmap(bounds.size());
+    card.fill(Qt::transparent);
+    QPainter cardPainter(&card);
+    paintCard(cardPainter, place, frame);
+    cardPainter.end();
+    QPixmapCache::insert(key, card);
+  }
+  painter.drawPixmap(bounds.topLeft(), card);
+}
+
+/// A card's number, as large as its box allows.
+void paintDigit(QPainter& painter, const Item& item, const QString& text, QFont font) {
+  const double height = item.place.height() * digitShare;
+  font.setPixelSize(std::max(1, static_cast<int>(height / digitHeight)));
+  const QFontMetrics metrics(font);
+  const QPointF middle = QRectF(item.place).center();
+  painter.setFont(font);
+  painter.drawText(QPointF(std::round(middle.x() - metrics.horizontalAdvance(text) / 2.0),
+                           std::round(middle.y() + metrics.capHeight() / 2.0)),
+                   text);
+}
+
+void paintLook(QPainter& painter, const Item& item, const Label& label) {
+  if (label.opaque) painter.fillRect(item.place, toColor(label.backColor));
+  if (label.bordered) {
+    const int edge = item.view.border(1);
+    const QRegion inside(item.place.adjusted(edge, edge, -edge, -edge));
+    for (const QRect& side : QRegion(item.place) - inside) painter.fillRect(side, Qt::black);
+  }
+  const QString text = toText(label.caption);
+  painter.setPen(toColor(label.foreColor));
+  const QFont font = toFont(label.font, item.view.length(1));
+  if (label.parent != nullptr && text.size() == 1) {
+    paintDigit(painter, item, text, font);
+  } else {
+    write(painter, item.room, text, font, label.alignment);
+  }
+}
+
+}  // namespace
+
+DotPainter::DotPainter(QWidget& widget) : QPainter(&widget) {
+  const QTransform device = deviceTransform();
+  scale(1 / device.m11(), 1 / device.m22());
+  translate(std::round(device.dx()) - device.dx(), std::round(device.dy()) - device.dy());
+}
+
+void paint(QPainter& painter, const Item& item) {
+  painter.save();
+  if (item.control->parent != nullptr && std::holds_alternative<Line>(item.look)) {
+    painter.setClipRect(item.room, Qt::IntersectClip);
+  } else if (item.control->parent != nullptr && std::holds_alternative<Shape>(item.look)) {
+    QPainterPath inside;
+    const double corner = FrameLook(*item.control->parent, item.room).corner;
+    inside.addRoundedRect(item.room, corner, corner);
+    painter.setClipPath(inside, Qt::IntersectClip);
+  }
+  std::visit([&](const auto& look) { paintLook(painter, item, look); }, item.look);
+  painter.restore();
+}
+
+void paintButton(QPushButton& widget, const Button& button, const View& view) {
+  DotPainter painter(widget);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const double ratio = widget.devicePixelRatioF();
+  const QRectF place(0, 0, std::floor(widget.width() * ratio), std::floor(widget.height() * ratio));
+  const QColor color = toColor(button.backColor);
+  QLinearGradient ground(place.topLeft(), place.bottomLeft());
+  ground.setColorAt(0, widget.isDown() ? color.darker(115) : color.lighter(112));
+  ground.setColorAt(1, color.darker(widget.isDown() ? 108 : 104));
+  const double corner = 3 * ratio;
+  const auto edge = [&](int width, const QColor& edgeColor) {
+    const double half = width / 2.0;
+    painter.setPen(QPen(edgeColor, width));
+    painter.drawRoundedRect(place.adjusted(half, half, -half, -half), corner, corner);
+  };
+  painter.setBrush(ground);
+  edge(View::plain(ratio).border(1), color.darker(180));
+  painter.setBrush(Qt::NoBrush);
+  if (widget.hasFocus()) {
+    edge(View::plain(ratio).border(2), widget.palette().color(QPalette::Highlight));
+  }
+  const auto group = widget.isEnabled() ? QPalette::Active : QPalette::Disabled;
+  painter.setPen(widget.isEnabled() ? toColor(button.foreColor)
+                                    : widget.palette().color(group, QPalette::ButtonText));
+  const int margin = View::plain(ratio).border(2);
+  const QRect room = place.toRect().adjusted(margin, 0, -margin, 0);
+  write(painter, room, widget.text(), toFont(button.font, view.length(1)), Alignment::Centre);
+}
+
+}  // namespace mevracard

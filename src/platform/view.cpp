@@ -1,0 +1,50 @@
+#include "platform/view.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace mevracard {
+
+namespace {
+
+double near(double dots) {
+  constexpr double farAway = 100000;
+  return std::isnan(dots) ? 0 : std::clamp(dots, -farAway, farAway);
+}
+
+int dot(double place) { return static_cast<int>(std::lround(place)); }
+
+/// Dots a twip; no limit for what has no size.
+double share(double dots, double twips) { return twips > 0 ? dots / twips : 1e9; }
+
+/// The origin at which the middle of something lies in the middle of its room.
+double originFor(double room, double start, double size, double scale) {
+  return near(std::round((room - size * scale) / 2 - start * scale));
+}
+
+}  // namespace
+
+double View::x(double twips) const { return near(left + twips * dotsPerTwip); }
+double View::y(double twips) const { return near(top + twips * dotsPerTwip); }
+
+double View::length(double pixels) const {
+  return near(pixels * twipsPerDesignPixel * dotsPerTwip);
+}
+
+int View::border(double pixels) const { return std::max(1, dot(length(pixels))); }
+
+Dots View::box(const Box& box, double atLeft, double atTop) const {
+  return {dot(x(atLeft)), dot(y(atTop)), std::max(0, dot(near(box.width * dotsPerTwip))),
+          std::max(0, dot(near(box.height * dotsPerTwip)))};
+}
+
+View View::plain(double ratio) { return {ratio / twipsPerDesignPixel, 0, 0}; }
+
+View View::fitted(const Box& whole, double width, double height, double ratio) {
+  const double own = ratio / twipsPerDesignPixel;
+  const double scale = std::min({own, share(width, whole.width), share(height, whole.height)});
+  return {scale, originFor(width, whole.left, whole.width, scale),
+          originFor(height, whole.top, whole.height, scale)};
+}
+
+}  // namespace mevracard

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "platform/control.h"
+
+namespace mevracard {
+
+constexpr double twipsPerInch = 1440;
+constexpr double pixelsPerInch = 96;  ///< of the design; a screen may have several dots a pixel
+constexpr double twipsPerDesignPixel = twipsPerInch / pixelsPerInch;
+
+/// A rectangle of whole dots.
+struct Dots {
+  int left = 0, top = 0, width = 0, height = 0;
+  bool operator==(const Dots&) const = default;
+};
+
+/// How a window's twips lie on the dots of its screen: one zoom and one origin. The only place
+/// where a place is rounded to a dot, so that every edge is crisp. A place absurdly far away is
+/// drawn in to one that still counts in whole numbers.
+struct View {
+  double dotsPerTwip = 1 / twipsPerDesignPixel;
+  double left = 0, top = 0;  ///< dots from the window's corner to the origin
+
+  bool operator==(const View&) const = default;
+
+  [[nodiscard]] double x(double twips) const;
+  [[nodiscard]] double y(double twips) const;
+  /// A length that is given in pixels of the design, such as the width of a border.
+  [[nodiscard]] double length(double pixels) const;
+  /// A border that is to be seen is at least one dot wide.
+  [[nodiscard]] int border(double pixels) const;
+  /// Boxes of one size, such as cards, keep one size wherever they stand.
+  [[nodiscard]] Dots box(const Box& box) const { return this->box(box, box.left, box.top); }
+  /// The box elsewhere.
+  [[nodiscard]] Dots box(const Box& box, double atLeft, double atTop) const;
+
+  /// The design at its own size, from the window's corner; `ratio` is the dots of a pixel.
+  [[nodiscard]] static View plain(double ratio);
+  /// All of `whole` in the middle of a window of this many dots: at its own size where the window
+  /// has room for that, else smaller, never larger.
+  [[nodiscard]] static View fitted(const Box& whole, double width, double height, double ratio);
+};
+
+}  // namespace mevracard
