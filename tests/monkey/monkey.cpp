@@ -105,10 +105,9 @@ class Monkey {
       desktop.afterEvent();
       if (left_ > 0) desktop.run();
     }
-    const int games = met_.wins + met_.losses;
-    std::cout << runs << " runs of the program, " << games << " games to their end, "
-              << met_.playersPasses << " passes, " << met_.choices << " choices\n";
-    return events_ < usual || (games > 0 && met_.playersPasses > 0 && met_.choices > 0);
+    std::cout << runs << " runs of the program, " << met_.games << " games to their end, "
+              << met_.passes << " passes, " << met_.choices << " choices\n";
+    return events_ < usual || (met_.games > 0 && met_.passes > 0 && met_.choices > 0);
   }
 
  private:
