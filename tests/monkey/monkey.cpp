@@ -4,8 +4,12 @@
 //     build/check/tests/monkey EVENTS SEED
 //
 // The same seed does the same again. Where a promise breaks, the seed, the event's number and what
-// led to it are printed. It needs no display; with QT_QPA_PLATFORM=xcb it plays on one, and with
-// QT_SCALE_FACTOR=1.5 at another ratio of pixels.
+// led to it are printed. It needs no display, and plays on one with
+//
+//     LSAN_OPTIONS=suppressions=$PWD/tools/testing/leaks.txt
+//       tools/testing/with_display.sh 1366x768 build/check/tests/monkey EVENTS SEED
+//
+// QT_SCALE_FACTOR=1.5 gives another ratio of pixels.
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QAction>
@@ -38,6 +42,7 @@ namespace mevracard::monkey {
 namespace {
 
 constexpr int usual = 5000;            // events; every situation of a game comes up in so many
+constexpr int atOnce = 5;              // turns of the event loop
 constexpr int coveredCardsEvery = 64;  // events; comparing pictures of all windows takes long
 
 /// Those on the screen, in the order in which they were made.
@@ -95,15 +100,14 @@ class Monkey {
         if (!endCame_) promises.checkTable();  // it breaks off whatever was under way
       };
       endCame_ = false;
-      QCoreApplication::removePostedEvents(qApp, QEvent::Quit);
+      turnsSince_ = 0;
       program.start();
       desktop.afterEvent();
       if (left_ > 0) desktop.run();
     }
-    const int games = met_.wins + met_.losses;
-    std::cout << runs << " runs of the program, " << games << " games to their end, "
-              << met_.playersPasses << " passes, " << met_.choices << " choices\n";
-    return events_ < usual || (games > 0 && met_.playersPasses > 0 && met_.choices > 0);
+    std::cout << runs << " runs of the program, " << met_.games << " games to their end, "
+              << met_.passes << " passes, " << met_.choices << " choices\n";
+    return events_ < usual || (met_.games > 0 && met_.passes > 0 && met_.choices > 0);
   }
 
  private:
@@ -111,7 +115,7 @@ class Monkey {
     QTimer::singleShot(0, qApp, [this] {
       if (left_-- == 0) return QCoreApplication::exit();
       goOn();  // first, as what it does may bring up an event loop of its own
-      if (endCame_) fail("broken: the game goes on after the session's end");
+      if (endCame_ && ++turnsSince_ > atOnce) fail("broken: it goes on after the session's end");
       promises_->checkWindows();
       if (left_ % coveredCardsEvery == 0) promises_->checkCoveredCards();
       nextEvent();
@@ -121,7 +125,8 @@ class Monkey {
 
   void act() {
     addTime(1 + random_.below(40));
-    if (QApplication::activePopupWidget() != nullptr && oneIn(2)) return useMenu();
+    if (QApplication::activePopupWidget() != nullptr && oneIn(2))
+      return oneIn(2) ? useMenu() : wait();
     QWidget* const box = QApplication::activeModalWidget();
     if (box != nullptr && oneIn(2)) return answer(*box);
     // As a window manager does when the window with the keyboard has gone.
@@ -134,14 +139,19 @@ class Monkey {
     if (lot < 43) return useControl(true);
     if (lot < 49) return useControl(false);
     if (lot < 53) return useMouse(anyPlace());
-    if (lot < 55) return useMenu();
+    if (lot < 56) return useMenu();
     if (lot < 70) return typeKey();
     if (lot < 90) return wait();
     if (lot < 98) return useWindow();
     if (lot < 99 || !oneIn(4)) return tearFile();
+    endSession();
+  }
+
+  void endSession() {
     note("the session ends");
     endCame_ = true;
-    QCoreApplication::postEvent(qApp, new QEvent(QEvent::Quit));
+    QEvent quit(QEvent::Quit);
+    QCoreApplication::sendEvent(qApp, &quit);
   }
 
   void lay() {
@@ -211,6 +221,7 @@ class Monkey {
   void answer(QWidget& box) {
     note("answer");
     const auto* button = box.findChild<QAbstractButton*>();
+    if (oneIn(20)) return endSession();
     if (oneIn(4)) return key(Qt::Key_Return);
     if (oneIn(3)) return key(Qt::Key_Escape);
     if (oneIn(2) || button == nullptr) return close(*box.windowHandle());
@@ -339,6 +350,7 @@ class Monkey {
   QPointer<QWindow> holder_;
   Qt::MouseButtons down_;
   bool endCame_ = false;  ///< the session's: the program is to end at once
+  int turnsSince_ = 0;    ///< of the event loop
 };
 
 /// The toolkit's desktop without a display gets a screen of a usual size.

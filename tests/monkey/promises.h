@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "simulate/random_stream.h"
-#include "simulation/table_watch.h"
+#include "simulate/table_watch.h"
 
 namespace mevracard::monkey {
 

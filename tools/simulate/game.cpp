@@ -4,6 +4,7 @@
 
 #include "simulate/chain_log.h"
 #include "simulate/table.h"
+#include "simulate/table_watch.h"
 
 namespace mevracard::simulate {
 
@@ -52,10 +53,18 @@ Figures playGame(const Request& request, int number, Signature& signature) {
   Table table(request, base + static_cast<std::uint64_t>(number));
   MainWindow& w = table.window();
   ChainLog chain;
+  Met met;
+  TableWatch watch(w, met);
+  const auto look = [&] {
+    const char* broken = request.watch ? watch.complaint() : nullptr;
+    if (broken != nullptr) throw std::logic_error(std::string("broken: ") + broken);
+  };
+  look();
   Figures figures;
   for (int events = 0; !w.state.gameOver; ++events) {
     if (events == mostEvents) throw std::logic_error("the game does not end");
     table.goOn();
+    look();
     count(figures, chain.cardsLaid(w), signature);
   }
   countResult(figures, w.state, signature);

@@ -23,7 +23,8 @@ struct Figures {
 /// Plays the game with this number of the request, from the program's start to the result, in a
 /// world of its own: neither other games nor the wall clock enter it. Folds every card laid (its
 /// slot, the end, the number that it opened) and the result into the signature. Throws
-/// std::logic_error if the game does not go on or does not end.
+/// std::logic_error if the game does not go on or does not end, or if a watched table is not in
+/// order.
 [[nodiscard]] Figures playGame(const Request& request, int number, Signature& signature);
 
 /// All games of the request.

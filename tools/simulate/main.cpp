@@ -5,9 +5,10 @@
 //   level 1|2                   the computer's, 1 if not given
 //   seed S                      1 if not given; the same request plays the same games
 //   player first|random|greedy  random if not given
+//   watch 0|1                   1: the table must be in order after every event; 0 if not given
 // A line that it cannot read: "line N: WHY" on standard error, exit status 2. A game that does not
-// go on: one line there, exit status 1. The last line printed is the signature: a change of how
-// either side plays, or of who wins, changes it.
+// go on, or a table out of order: one line there, exit status 1. The last line printed is the
+// signature: a change of how either side plays, or of who wins, changes it.
 #include <chrono>
 #include <cinttypes>
 #include <cstdio>

@@ -48,8 +48,10 @@ void takeLine(Request& request, const std::string& line) {
     request.seed = parseNumber(value, {0, UINT64_MAX});
   } else if (name == "player") {
     request.player = parseStyle(value);
+  } else if (name == "watch") {
+    request.watch = parseNumber(value, {0, 1}) == 1;
   } else {
-    throw std::runtime_error("the words are games, level, seed and player");
+    throw std::runtime_error("the words are games, level, seed, player and watch");
   }
 }
 

@@ -13,6 +13,7 @@ struct Request {
   int level = 1;  ///< of the computer
   std::uint64_t seed = 1;
   Style player = Style::Random;
+  bool watch = false;  ///< hold the table after every event against what must always be true
 };
 
 /// Reads a request, one word and its value a line; a later line outdoes an earlier one. Throws

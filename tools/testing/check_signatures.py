@@ -13,7 +13,7 @@ WORDS = ("level", "player", "seed", "games")
 
 
 def signature(program, values):
-    request = "".join(f"{word} {value}\n" for word, value in zip(WORDS, values))
+    request = "watch 1\n" + "".join(f"{word} {value}\n" for word, value in zip(WORDS, values))
     run = subprocess.run([program], input=request, capture_output=True, text=True)
     if run.returncode:
         sys.exit(f"exit {run.returncode}: {run.stderr.strip()}\nfor this request:\n{request}")

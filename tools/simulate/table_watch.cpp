@@ -1,4 +1,4 @@
-#include "simulation/table_watch.h"
+#include "simulate/table_watch.h"
 
 #include <algorithm>
 #include <bitset>
@@ -65,8 +65,6 @@ const char* TableWatch::aboutChain() {
     ++(ownerOf(card.slot) == Side::Player ? players : computers);
   }
   surplus_ += std::max(0, computers - 1);
-  met_.computersExtraCards += std::max(0, computers - 1);
-  met_.hurriedCards += replyWasDue_ ? players : 0;
   if (players > 1) return "the player lays one card at a time";
   if (players > 0 && computers > 0) return "an event is the move of one side";
   if (computers > 0 && !replyWasDue_ && !s.tutorial.running) return "the computer waits its turn";
@@ -116,18 +114,9 @@ const char* TableWatch::aboutTurn() const {
 
 void TableWatch::meet() {
   const GameState& s = w_.state;
-  const bool newGame = cardsLaid(s) == 0;
-  if (s.gameOver && !before_.gameOver) {
-    ++(s.result == GameResult::Won ? met_.wins : met_.losses);
-    met_.deadlocks += s.deadlock ? 1 : 0;
-  }
+  met_.games += s.gameOver && !before_.gameOver ? 1 : 0;
   met_.choices += s.choiceOpen && !before_.choiceOpen ? 1 : 0;
-  if (!newGame) {
-    met_.computersPasses += s.passes[Side::Computer] - before_.passes[Side::Computer];
-    met_.playersPasses += s.passes[Side::Player] - before_.passes[Side::Player];
-  } else if (!before_.gameOver && cardsLaid(before_) > 0) {
-    ++met_.abandoned;
-  }
+  met_.passes += s.passAwaitsOk && !before_.passAwaitsOk ? 1 : 0;
   before_ = s;
   replyWasDue_ = w_.timer.enabled;
 }

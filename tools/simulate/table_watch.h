@@ -6,11 +6,9 @@ namespace mevracard::simulate {
 
 /// What a run has met, to show that it was worth running.
 struct Met {
-  int wins = 0, losses = 0, deadlocks = 0, abandoned = 0;
-  int choices = 0;              ///< same-number choices opened
-  int hurriedCards = 0;         ///< of the player's, laid while a reply was pending
-  int computersExtraCards = 0;  ///< laid in one turn after the first
-  int playersPasses = 0, computersPasses = 0;
+  int games = 0;    ///< played to their end
+  int choices = 0;  ///< same-number choices opened
+  int passes = 0;   ///< of the player's
 };
 
 /// Holds the table after every event against what must always be true.
