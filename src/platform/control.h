@@ -111,6 +111,7 @@ struct Shape : Box {
 /// Horizontal scroll bar; `value` stays within `minimum` to `maximum`, both steps are 1.
 struct ScrollBar : Box {
   ScrollBar() : Box(ControlKind::ScrollBar) {}
+  std::string_view spoken;  ///< what it is called
   int minimum = 0, maximum = 100, value = 0;
 };
 

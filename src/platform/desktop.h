@@ -60,6 +60,8 @@ class Desktop {
   /// Closes all windows and ends the program; no event follows.
   virtual void end() = 0;
 
+  /// Whether it hands words on, so that forms are to be presented with their speech.
+  [[nodiscard]] virtual bool speaks() const = 0;
   /// The screen's height in twips, and twips per pixel (15 at 96 dots per inch).
   [[nodiscard]] virtual int screenHeight() const = 0;
   [[nodiscard]] virtual int twipsPerPixel() const = 0;

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/control.h"
+#include "platform/speech.h"
 
 /// Windows, their menus and timers: passive like the controls on them.
 namespace mevracard {
@@ -60,6 +61,7 @@ struct Form {
   /// How frames were moved since the last time the form was presented, one after the other. A
   /// desktop may show it, and clears it.
   std::vector<Glide> glides;
+  Speech speech;                   ///< filled in where the desktop speaks
   std::vector<Control*> controls;  ///< depth order from back to front; frames own their children
   std::vector<MenuEntry*> menu;
   Timer* timer = nullptr;

@@ -51,6 +51,7 @@ void MainWindow::refresh() {
 
 void MainWindow::present() {
   refresh();
+  if (desktop.speaks()) speak();
   desktop.present();
 }
 

@@ -36,6 +36,8 @@ struct MainWindow {
   Tutorial tutorial;
   SizePanel sizePanel;
 
+  GameState told;  ///< the state as it was last put into words
+
   AboutWindow about;  ///< also the window of the tips
   StatisticsWindow statistics;
 
@@ -57,6 +59,8 @@ struct MainWindow {
   void report(std::string_view text);
 
  private:
+  /// Puts into words what the windows show, and what has happened since the last time.
+  void speak();
   /// Gives every control its design place, look and depth, back to front.
   void designControls();
   /// Gives the menu entries their captions and builds the menu tree.

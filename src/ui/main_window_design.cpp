@@ -124,6 +124,7 @@ void designSizePanel(SizePanel& panel) {
   panel.bar.minimum = 70;
   panel.bar.maximum = 99;
   panel.bar.value = 99;
+  panel.bar.spoken = "Size of the table";
   design(panel.ok,      {1320, 2640,  615,  255}, "OK");
 
   outline(panel.monitorBoxes[0], rectangle, {840, 3120, 1575, 1095}, black);

@@ -54,6 +54,7 @@ class HeadlessDesktop : public Desktop {
   void messageBox(std::string_view text) override { tell("message", text); }
   void reportError(std::string_view text) override { tell("error", text); }
   void end() override;
+  [[nodiscard]] bool speaks() const override { return false; }
   [[nodiscard]] int screenHeight() const override { return world.screenHeight; }
   [[nodiscard]] int twipsPerPixel() const override { return world.twipsPerPixel; }
   void movePointer(int x, int y) override;

@@ -35,6 +35,10 @@ class Canvas final : public QWidget {
   /// Logical pixels from the canvas' corner.
   [[nodiscard]] QPoint toPixels(Position twips) const;
 
+  [[nodiscard]] const Speech& speech() const { return form_.speech; }
+  /// Does what a double-click on the control does.
+  void press(Control& control) { events_.send(EventKind::DoubleClick, control); }
+
  protected:
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;

@@ -8,6 +8,7 @@
 #include "platform/event.h"
 #include "platform/qt/canvas.h"
 #include "platform/qt/menu.h"
+#include "platform/qt/voice.h"
 
 namespace mevracard {
 
@@ -56,6 +57,7 @@ class FormWindow final : public QMainWindow, private ControlEvents {
   FormWindow* main_;
   Canvas* canvas_;
   std::unique_ptr<Menu> menu_;
+  Voice voice_;
   QTimer timer_;
   unsigned armings_ = 0;
   bool tickDue_ = false;

@@ -13,6 +13,7 @@
 #include "platform/qt/menu.h"
 #include "platform/qt/message_box.h"
 #include "platform/qt/reduced_motion.h"
+#include "platform/qt/voice.h"
 #include "platform/view.h"
 
 namespace mevracard {
@@ -35,6 +36,7 @@ QtDesktop::QtDesktop(const QString& dataDir, const std::vector<DefaultFile>& def
     : files_(dataDir, defaults) {
   applyLook();
   askAboutMotion();
+  installVoices();
   QGuiApplication::setQuitOnLastWindowClosed(false);
   dueTicks_.setSingleShot(true);
   QObject::connect(&dueTicks_, &QTimer::timeout, &dueTicks_, [this] { deliverDueTicks(); });

@@ -34,6 +34,7 @@ class QtDesktop : public Desktop {
   void reportError(std::string_view text) override;
   void end() override;
 
+  [[nodiscard]] bool speaks() const override { return true; }
   [[nodiscard]] int screenHeight() const override;
   [[nodiscard]] int twipsPerPixel() const override;
   void movePointer(int x, int y) override;

@@ -112,6 +112,7 @@ QWidget* Widgets::make(Control& control) {
     bar->setTracking(false);
     bar->setInvertedControls(false);  // Left is less
     bar->setPageStep(1);
+    bar->setAccessibleName(toText(static_cast<const ScrollBar&>(control).spoken));
     connect(bar, &QScrollBar::valueChanged, this,
             [this, &control](int value) { events_.send(EventKind::Scroll, control, value); });
     widget = bar;

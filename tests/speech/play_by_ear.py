@@ -1,0 +1,118 @@
+#!/usr/bin/python3
+"""play_by_ear.py PROGRAM: plays a whole game with the computer's cards face down, by keys and by
+what assistive technology hears alone. It runs on a bus of its own. Whatever can be heard or asked
+for is held against the cards that are the player's to see."""
+
+import os
+import re
+import subprocess
+import sys
+from pathlib import Path
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib  # noqa: E402
+
+PATIENCE = 120  # seconds without a word until the game counts as dumb
+LAST_WORDS = re.compile(r"You (win|lose)\.")
+
+
+def cards(texts):
+    return set(re.findall(r"\b[0-6]-[0-6]\b", " ".join(texts)))
+
+
+def parts(root):
+    """Everything below, however deep."""
+    for i in range(root.get_child_count()):
+        if child := root.get_child_at_index(i):
+            child.clear_cache()
+            yield child
+            yield from parts(child)
+
+
+class Player:
+    def __init__(self):
+        self.game, self.news, self.heard, self.hand = None, [], [], None
+        self.listener = Atspi.EventListener.new(self.hear)
+        for kind in "object:state-changed:focused", "object:property-change:accessible-name":
+            self.listener.register(kind)
+
+    def start(self, program):
+        data = Path(os.environ["XDG_DATA_HOME"], "mevracard")
+        data.mkdir(parents=True)
+        (data / "wdx.sys").write_bytes(b"2/2/99\r\n")  # the computer's cards face down
+        always = {**os.environ, "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
+        self.game = subprocess.Popen([program], env=always)
+
+    def hear(self, event):
+        """What a screen reader says by itself: where the keyboard comes to, and what that is called
+        from now on."""
+        if event.source is None or event.source.get_process_id() != self.game.pid:
+            return
+        if "focused" in event.type:
+            if event.detail1:
+                self.news.append((event.source, event.source.get_name()))
+        elif event.source.get_state_set().contains(Atspi.StateType.FOCUSED):
+            self.news.append((event.source, event.any_data))
+
+    def next_news(self):
+        timeouts = []
+        patience = GLib.timeout_add_seconds(PATIENCE, timeouts.append, True)
+        while not self.news:
+            GLib.MainContext.default().iteration(True)
+            if timeouts:
+                self.fail("nothing is said any more")
+        GLib.source_remove(patience)
+        return self.news.pop(0)
+
+    def play(self):
+        while not self.heard or not LAST_WORDS.search(self.heard[-1]):
+            source, words = self.next_news()
+            if not words or self.heard[-1:] == [words]:
+                continue
+            self.heard.append(words)
+            self.look_for_covered_cards(words)
+            if key := self.answer_to(words, source.get_role()):
+                subprocess.run(["xdotool", "key", key], check=True)
+
+    @staticmethod
+    def answer_to(words, role):
+        if role == Atspi.Role.PUSH_BUTTON:  # the OK of a message, or of the tips after a pass
+            return "Return"
+        if choice := re.search(r"Mevra (\d) or Mevra", words):
+            return choice[1]
+        if re.search(r", fits .*\. $", words):
+            return "Return"
+        said_no = words.endswith(("does not fit. ", "is selected. "))
+        return "p" if said_no or "Your Turn" in words else None
+
+    def look_for_covered_cards(self, words):
+        desktop = Atspi.get_desktop(0)
+        programs = [desktop.get_child_at_index(i) for i in range(desktop.get_child_count())]
+        mine = [p for p in programs if p and p.get_process_id() == self.game.pid]
+        all_parts = list(parts(mine[0]))
+        lists = {p.get_name(): p for p in all_parts if p.get_role() == Atspi.Role.LIST}
+        items = {name: [item.get_name() for item in parts(p)] for name, p in lists.items()}
+        if self.hand is None and items["Your cards"]:
+            self.hand = cards(items["Your cards"])
+        if LAST_WORDS.search(words):  # now the computer's cards lie open
+            return
+        if set(items["Computer's cards"]) - {"face down"}:
+            self.fail(f"the computer's hand is told: {items}")
+        told = [words, *(p.get_name() + p.get_description() for p in all_parts)]
+        if secret := cards(told) - (self.hand or set()) - cards(items["Table"]) - {"0-0"}:
+            self.fail(f"told, and neither the player's nor on the table: {secret}")
+
+    def fail(self, why):
+        sys.exit(f"play_by_ear: {why}; heard before:\n" + "\n".join(self.heard[-20:]))
+
+
+player = Player()
+player.start(sys.argv[1])
+try:
+    player.play()
+finally:
+    player.game.kill()
+    player.game.wait()
+print(*player.heard, sep="\n")
