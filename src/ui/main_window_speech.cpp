@@ -68,11 +68,10 @@ SpokenList tableList(MainWindow& w) {
   const auto [first, second] = s.endCard.values;
   for (const End end : ends) {
     if (!s.endCard[end] || (end == End::LeftBottom && first == second)) continue;
-    add(*s.endCard[end], first == second ? ", at both ends, open number " +
-                                               std::to_string(s.openNumber[end])
-                                         : ", at the " + std::string(nameOf(end)) +
-                                               " end, open number " +
-                                               std::to_string(s.openNumber[end]));
+    add(*s.endCard[end], first == second
+                             ? ", at both ends, open number " + std::to_string(s.openNumber[end])
+                             : ", at the " + std::string(nameOf(end)) + " end, open number " +
+                                   std::to_string(s.openNumber[end]));
   }
   for (const int slot : allSlots) {
     if (!s.card(slot).held && slot != first && slot != second) add(slot, "");
@@ -114,9 +113,9 @@ std::string laidSince(const GameState& told, const GameState& s, Side side) {
 /// A card that the player wanted to lay and could not.
 std::string refusedSince(const GameState& told, const GameState& s) {
   const bool dropped = told.selectedCard != s.selectedCard && s.selectedCard == noSelection;
-  const int slot = dropped ? told.selectedCard : s.playCard;
-  if (!dropped && told.playCard == s.playCard) return "";
-  if (slot >= handSize || !s.card(slot).held || s.openings == 0 || fits(s, slot)) return "";
+  const int slot = s.playCard;
+  if ((!dropped && slot == told.playCard) || told.openings == 0 || s.tutorial.running) return "";
+  if (slot >= handSize || !s.card(slot).held || fits(s, slot)) return "";
   return nameOf(s.card(slot)) + " does not fit. ";
 }
 
@@ -142,8 +141,8 @@ std::string resultWords(const Result& result) {
 std::string newsSince(const GameState& told, MainWindow& w) {
   const GameState& s = w.state;
   const std::string laid = laidSince(told, s, Side::Player) + laidSince(told, s, Side::Computer);
-  std::string news = laid + (laid.empty() ? "" : openNumbers(s)) + refusedSince(told, s) +
-                     selectedSince(told, w);
+  std::string news =
+      laid + (laid.empty() ? "" : openNumbers(s)) + refusedSince(told, s) + selectedSince(told, w);
   if (s.gameOver) return told.gameOver ? news : news + resultWords(w.result);
   const bool another = s.announcement != told.announcement || !laid.empty();
   if (another || (told.choiceOpen && !s.choiceOpen)) news += sentence(w.status.caption);

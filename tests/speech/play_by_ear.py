@@ -35,26 +35,25 @@ class Player:
     def __init__(self):
         self.game, self.news, self.heard, self.hand = None, [], [], None
         self.listener = Atspi.EventListener.new(self.hear)
-        for kind in "object:state-changed:focused", "object:property-change:accessible-name":
+        for kind in "object:state-changed:focused", "object:announcement":
             self.listener.register(kind)
 
     def start(self, program):
         data = Path(os.environ["XDG_DATA_HOME"], "mevracard")
         data.mkdir(parents=True)
         (data / "wdx.sys").write_bytes(b"2/2/99\r\n")  # the computer's cards face down
+        (data / "sys32rtn.dat").write_bytes(b"547153507498\r\n")  # no games yet
         always = {**os.environ, "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
         self.game = subprocess.Popen([program], env=always)
 
     def hear(self, event):
-        """What a screen reader says by itself: where the keyboard comes to, and what that is called
-        from now on."""
+        """What a screen reader says by itself: where the focus comes to, and announcements."""
         if event.source is None or event.source.get_process_id() != self.game.pid:
             return
-        if "focused" in event.type:
-            if event.detail1:
-                self.news.append((event.source, event.source.get_name()))
-        elif event.source.get_state_set().contains(Atspi.StateType.FOCUSED):
+        if "announcement" in event.type:
             self.news.append((event.source, event.any_data))
+        elif event.detail1:
+            self.news.append((event.source, event.source.get_name()))
 
     def next_news(self):
         timeouts = []

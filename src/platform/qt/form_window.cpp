@@ -101,8 +101,7 @@ void FormWindow::flushFocus() {
   const bool asBefore = form_.focus == std::exchange(flushedFocus_, form_.focus);
   // The player may have taken it to a link or a text, of which the game knows nothing.
   const QWidget* now = focusWidget();
-  const bool stays =
-      asBefore && now != nullptr && now->isVisible() && canvas_->isPlayersOwn(*now);
+  const bool stays = asBefore && now != nullptr && now->isVisible() && canvas_->isPlayersOwn(*now);
   voice_.flush(form_.speech, *canvas_, stays ? *focusWidget() : wanted);
   if (!stays && now != &wanted) wanted.setFocus(Qt::OtherFocusReason);
 }

@@ -27,7 +27,7 @@ QAccessibleInterface* keep(QAccessible::Id& id, auto make) {
   return QAccessible::accessibleInterface(id);
 }
 
-/// The canvas: lists, and after them its widgets.
+/// The canvas: lists, and after them the news of now and of before, and its widgets.
 class SpokenCanvas final : public QAccessibleWidget {
  public:
   explicit SpokenCanvas(Canvas& canvas)
@@ -37,21 +37,23 @@ class SpokenCanvas final : public QAccessibleWidget {
   [[nodiscard]] const std::vector<SpokenList>& lists() const { return canvas_.speech().lists; }
   QAccessibleInterface* listAt(std::size_t index) const;
   QAccessibleInterface* itemAt(Box* control) const;
+  QAccessibleInterface* newsAt(std::size_t index) const;
+  /// Gives the news another place, so that the accessible focus can move there.
+  QAccessibleInterface* nextNews() { return newsAt(newsNow_ = 1 - newsNow_); }
+  [[nodiscard]] bool isNewsOfNow(std::size_t index) const { return index == newsNow_; }
 
-  int childCount() const override {
-    return static_cast<int>(lists().size()) + QAccessibleWidget::childCount();
-  }
+  int childCount() const override { return ownCount() + QAccessibleWidget::childCount(); }
   QAccessibleInterface* child(int index) const override {
-    const int count = static_cast<int>(lists().size());
-    if (index < 0 || index >= count) return QAccessibleWidget::child(index - count);
-    return listAt(static_cast<std::size_t>(index));
+    if (index < 0 || index >= ownCount()) return QAccessibleWidget::child(index - ownCount());
+    const auto own = static_cast<std::size_t>(index);
+    return own < lists().size() ? listAt(own) : newsAt(own - lists().size());
   }
-  int indexOfChild(const QAccessibleInterface* child) const override {
-    for (std::size_t i = 0; i < lists().size(); ++i) {
-      if (listAt(i) == child) return static_cast<int>(i);
+  int indexOfChild(const QAccessibleInterface* part) const override {
+    for (int i = 0; i < ownCount(); ++i) {
+      if (child(i) == part) return i;
     }
-    const int widget = QAccessibleWidget::indexOfChild(child);
-    return widget < 0 ? widget : widget + static_cast<int>(lists().size());
+    const int widget = QAccessibleWidget::indexOfChild(part);
+    return widget < 0 ? widget : widget + ownCount();
   }
   QAccessible::State state() const override {
     QAccessible::State state = QAccessibleWidget::state();
@@ -62,16 +64,21 @@ class SpokenCanvas final : public QAccessibleWidget {
  protected:
   ~SpokenCanvas() override {
     for (const auto& [index, id] : listIds_) QAccessible::deleteAccessibleInterface(id);
+    for (const QAccessible::Id id : newsIds_) QAccessible::deleteAccessibleInterface(id);
     for (const auto& [control, id] : itemIds_) QAccessible::deleteAccessibleInterface(id);
   }
 
  private:
+  [[nodiscard]] int ownCount() const { return static_cast<int>(lists().size() + newsIds_.size()); }
+
   Canvas& canvas_;
+  std::size_t newsNow_ = 0;
+  mutable std::array<QAccessible::Id, 2> newsIds_{};
   mutable std::unordered_map<std::size_t, QAccessible::Id> listIds_;
   mutable std::unordered_map<const Box*, QAccessible::Id> itemIds_;
 };
 
-/// What a list and an item of it have in common: they are there as long as the canvas.
+/// What the parts of the canvas have in common: they are there as long as it is.
 class Part : public QAccessibleInterface {
  public:
   explicit Part(const SpokenCanvas& canvas) : canvas_(canvas) {}
@@ -110,9 +117,7 @@ class ListPart final : public Part {
     for (int i = 0; i < childCount(); ++i) all |= child(i)->rect();
     return all;
   }
-  int childCount() const override {
-    return isValid() ? static_cast<int>(list().items.size()) : 0;
-  }
+  int childCount() const override { return isValid() ? static_cast<int>(list().items.size()) : 0; }
   QAccessibleInterface* child(int index) const override {
     if (index < 0 || index >= childCount()) return nullptr;
     return canvas().itemAt(list().items[static_cast<std::size_t>(index)].control);
@@ -179,6 +184,41 @@ class ItemPart final : public Part, public QAccessibleActionInterface {
   Box& control_;
 };
 
+/// The news. A screen reader says what the accessible focus comes to, and nothing that changes
+/// where it is: so each time it goes from one such part to the other, while the keyboard stays.
+class NewsPart final : public Part {
+ public:
+  NewsPart(const SpokenCanvas& canvas, std::size_t index) : Part(canvas), index_(index) {}
+  bool isValid() const override { return true; }
+  QAccessible::Role role() const override { return QAccessible::StaticText; }
+  QAccessible::State state() const override {
+    QAccessible::State state;
+    state.focusable = true;
+    state.focused = canvas().isNewsOfNow(index_);
+    state.invisible = !state.focused;
+    return state;
+  }
+  QAccessibleInterface* parent() const override {
+    return QAccessible::queryAccessibleInterface(&canvas().canvas());
+  }
+  QRect rect() const override { return canvas().rect(); }
+  int childCount() const override { return 0; }
+  QAccessibleInterface* child(int /*index*/) const override { return nullptr; }
+  int indexOfChild(const QAccessibleInterface* /*child*/) const override { return -1; }
+
+ private:
+  [[nodiscard]] const std::string& words() const override {
+    static const std::string silence;
+    return canvas().isNewsOfNow(index_) ? canvas().canvas().speech().news : silence;
+  }
+
+  std::size_t index_;
+};
+
+QAccessibleInterface* SpokenCanvas::newsAt(std::size_t index) const {
+  return keep(newsIds_[index], [&] { return new NewsPart(*this, index); });
+}
+
 QAccessibleInterface* SpokenCanvas::listAt(std::size_t index) const {
   return keep(listIds_[index], [&] { return new ListPart(*this, index); });
 }
@@ -192,14 +232,28 @@ QAccessibleInterface* makeVoice(const QString& /*type*/, QObject* object) {
   return canvas != nullptr ? new SpokenCanvas(*canvas) : nullptr;
 }
 
+SpokenCanvas* treeOf(QWidget& canvas) {
+  return dynamic_cast<SpokenCanvas*>(QAccessible::queryAccessibleInterface(&canvas));
+}
+
 void report(QAccessibleInterface* part, QAccessible::Event kind) {
   QAccessibleEvent event(part, kind);
   QAccessible::updateAccessibility(&event);
 }
 
+void announce(QWidget& canvas, const QString& news) {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+  QAccessibleAnnouncementEvent event(&canvas, news);
+  QAccessible::updateAccessibility(&event);
+#else
+  Q_UNUSED(news)
+  if (SpokenCanvas* tree = treeOf(canvas)) report(tree->nextNews(), QAccessible::Focus);
+#endif
+}
+
 /// What assistive technology knows of the lists from before.
 void reportChanges(const Speech& before, const Speech& now, QWidget& canvas) {
-  auto* tree = dynamic_cast<SpokenCanvas*>(QAccessible::queryAccessibleInterface(&canvas));
+  SpokenCanvas* tree = treeOf(canvas);
   if (tree == nullptr) return;
   for (const SpokenList& list : now.lists) {
     for (const SpokenItem& item : list.items) {
@@ -222,25 +276,18 @@ void reportChanges(const Speech& before, const Speech& now, QWidget& canvas) {
 }  // namespace
 
 void Voice::flush(const Speech& speech, QWidget& canvas, QWidget& listener) {
-  tell(toText(speech.news), listener);
-  if (QAccessible::isActive()) reportChanges(told_, speech, canvas);
-  told_ = speech;
-}
-
-void Voice::tell(const QString& news, QWidget& listener) {
-#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
-  const bool another = news != toText(told_.news);
-  if (another && !news.isEmpty()) {
-    QAccessibleAnnouncementEvent event(&listener, news);
-    QAccessible::updateAccessibility(&event);
-  }
-#else
-  if (listener_ != &listener && listener_ != nullptr) listener_->setAccessibleName({});
-  listener_ = &listener;
+  const QString news = toText(speech.news);
   QString name = news;
   if (const auto* button = qobject_cast<QAbstractButton*>(&listener)) name += " " + button->text();
+  if (listener_ != &listener && listener_ != nullptr) listener_->setAccessibleName({});
+  listener_ = &listener;
   if (listener.accessibleName() != name) listener.setAccessibleName(name);
-#endif
+  if (QAccessible::isActive()) {
+    reportChanges(told_, speech, canvas);
+    if (speech.news != told_.news && listener.hasFocus() && listener.isEnabled())
+      announce(canvas, news);
+  }
+  told_ = speech;
 }
 
 void installVoices() { QAccessible::installFactory(makeVoice); }
