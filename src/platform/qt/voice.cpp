@@ -2,8 +2,7 @@
 
 #include <QAbstractButton>
 #include <QAccessibleWidget>
-#include <algorithm>
-#include <unordered_map>
+#include <map>
 #include <utility>
 
 #include "platform/qt/canvas.h"
@@ -12,6 +11,8 @@
 namespace mevracard {
 
 namespace {
+
+constexpr int firstList = 2;  ///< among the children of the canvas
 
 const SpokenItem* itemOf(const Speech& speech, const Box* control) {
   for (const SpokenList& list : speech.lists) {
@@ -22,38 +23,33 @@ const SpokenItem* itemOf(const Speech& speech, const Box* control) {
   return nullptr;
 }
 
-QAccessibleInterface* keep(QAccessible::Id& id, auto make) {
-  if (id == 0) id = QAccessible::registerAccessibleInterface(make());
-  return QAccessible::accessibleInterface(id);
+int indexOf(const QAccessibleInterface& parent, const QAccessibleInterface* child, int count) {
+  for (int i = 0; i < count; ++i) {
+    if (parent.child(i) == child) return i;
+  }
+  return -1;
 }
 
-/// The canvas: lists, and after them the news of now and of before, and its widgets.
+/// The canvas: the news of now and of before, the lists, and then its widgets.
 class SpokenCanvas final : public QAccessibleWidget {
  public:
   explicit SpokenCanvas(Canvas& canvas)
-      : QAccessibleWidget(&canvas, QAccessible::Canvas), canvas_(canvas) {}
+      : QAccessibleWidget(&canvas, QAccessible::LayeredPane), canvas_(canvas) {}
 
   [[nodiscard]] Canvas& canvas() const { return canvas_; }
-  [[nodiscard]] const std::vector<SpokenList>& lists() const { return canvas_.speech().lists; }
-  QAccessibleInterface* listAt(std::size_t index) const;
-  QAccessibleInterface* itemAt(Box* control) const;
-  QAccessibleInterface* newsAt(std::size_t index) const;
+  [[nodiscard]] const Speech& speech() const { return canvas_.speech(); }
+  [[nodiscard]] bool isNewsOfNow(int index) const { return index == newsNow_; }
   /// Gives the news another place, so that the accessible focus can move there.
-  QAccessibleInterface* nextNews() { return newsAt(newsNow_ = 1 - newsNow_); }
-  [[nodiscard]] bool isNewsOfNow(std::size_t index) const { return index == newsNow_; }
+  QAccessibleInterface* nextNews() { return ownChild(newsNow_ = 1 - newsNow_); }
+  QAccessibleInterface* item(Box* control) const;
 
   int childCount() const override { return ownCount() + QAccessibleWidget::childCount(); }
   QAccessibleInterface* child(int index) const override {
-    if (index < 0 || index >= ownCount()) return QAccessibleWidget::child(index - ownCount());
-    const auto own = static_cast<std::size_t>(index);
-    return own < lists().size() ? listAt(own) : newsAt(own - lists().size());
+    const bool own = index >= 0 && index < ownCount();
+    return own ? ownChild(index) : QAccessibleWidget::child(index - ownCount());
   }
   int indexOfChild(const QAccessibleInterface* part) const override {
-    for (int i = 0; i < ownCount(); ++i) {
-      if (child(i) == part) return i;
-    }
-    const int widget = QAccessibleWidget::indexOfChild(part);
-    return widget < 0 ? widget : widget + ownCount();
+    return indexOf(*this, part, childCount());
   }
   QAccessible::State state() const override {
     QAccessible::State state = QAccessibleWidget::state();
@@ -63,27 +59,41 @@ class SpokenCanvas final : public QAccessibleWidget {
 
  protected:
   ~SpokenCanvas() override {
-    for (const auto& [index, id] : listIds_) QAccessible::deleteAccessibleInterface(id);
-    for (const QAccessible::Id id : newsIds_) QAccessible::deleteAccessibleInterface(id);
-    for (const auto& [control, id] : itemIds_) QAccessible::deleteAccessibleInterface(id);
+    for (const auto& [key, id] : ids_) QAccessible::deleteAccessibleInterface(id);
   }
 
  private:
-  [[nodiscard]] int ownCount() const { return static_cast<int>(lists().size() + newsIds_.size()); }
+  [[nodiscard]] int ownCount() const { return firstList + static_cast<int>(speech().lists.size()); }
+  QAccessibleInterface* ownChild(int index) const;
+  QAccessibleInterface* kept(int index, const Box* control, auto make) const {
+    QAccessible::Id& id = ids_[{index, control}];
+    if (id == 0) id = QAccessible::registerAccessibleInterface(make());
+    return QAccessible::accessibleInterface(id);
+  }
 
   Canvas& canvas_;
-  std::size_t newsNow_ = 0;
-  mutable std::array<QAccessible::Id, 2> newsIds_{};
-  mutable std::unordered_map<std::size_t, QAccessible::Id> listIds_;
-  mutable std::unordered_map<const Box*, QAccessible::Id> itemIds_;
+  int newsNow_ = 0;
+  mutable std::map<std::pair<int, const Box*>, QAccessible::Id> ids_;
 };
 
 /// What the parts of the canvas have in common: they are there as long as it is.
 class Part : public QAccessibleInterface {
  public:
   explicit Part(const SpokenCanvas& canvas) : canvas_(canvas) {}
+  bool isValid() const override { return true; }
   QObject* object() const override { return nullptr; }
   QWindow* window() const override { return canvas_.window(); }
+  QAccessible::Role role() const override { return QAccessible::ListItem; }
+  QAccessible::State state() const override { return {}; }
+  QRect rect() const override { return canvas_.rect(); }
+  QAccessibleInterface* parent() const override {
+    return QAccessible::queryAccessibleInterface(&canvas_.canvas());
+  }
+  int childCount() const override { return 0; }
+  QAccessibleInterface* child(int /*index*/) const override { return nullptr; }
+  int indexOfChild(const QAccessibleInterface* part) const override {
+    return indexOf(*this, part, childCount());
+  }
   QAccessibleInterface* childAt(int x, int y) const override {
     for (int i = 0; i < childCount(); ++i) {
       if (child(i)->rect().contains(x, y)) return child(i);
@@ -97,41 +107,48 @@ class Part : public QAccessibleInterface {
 
  protected:
   [[nodiscard]] const SpokenCanvas& canvas() const { return canvas_; }
-  [[nodiscard]] virtual const std::string& words() const = 0;
+  [[nodiscard]] virtual std::string_view words() const = 0;
 
  private:
   const SpokenCanvas& canvas_;
 };
 
-class ListPart final : public Part {
+/// The news. A screen reader says what the accessible focus comes to, and nothing that changes
+/// where it is: so each time it goes from one such part to the other, while the keyboard stays.
+class NewsPart final : public Part {
  public:
-  ListPart(const SpokenCanvas& canvas, std::size_t index) : Part(canvas), index_(index) {}
-  bool isValid() const override { return index_ < canvas().lists().size(); }
-  QAccessible::Role role() const override { return QAccessible::List; }
-  QAccessible::State state() const override { return {}; }
-  QAccessibleInterface* parent() const override {
-    return QAccessible::queryAccessibleInterface(&canvas().canvas());
-  }
-  QRect rect() const override {
-    QRect all;
-    for (int i = 0; i < childCount(); ++i) all |= child(i)->rect();
-    return all;
-  }
-  int childCount() const override { return isValid() ? static_cast<int>(list().items.size()) : 0; }
-  QAccessibleInterface* child(int index) const override {
-    if (index < 0 || index >= childCount()) return nullptr;
-    return canvas().itemAt(list().items[static_cast<std::size_t>(index)].control);
-  }
-  int indexOfChild(const QAccessibleInterface* part) const override {
-    for (int i = 0; i < childCount(); ++i) {
-      if (child(i) == part) return i;
-    }
-    return -1;
+  NewsPart(const SpokenCanvas& canvas, int index) : Part(canvas), index_(index) {}
+  QAccessible::State state() const override {
+    QAccessible::State state;
+    state.focusable = true;
+    state.focused = canvas().isNewsOfNow(index_);
+    state.invisible = !state.focused;
+    return state;
   }
 
  private:
-  [[nodiscard]] const SpokenList& list() const { return canvas().lists()[index_]; }
-  [[nodiscard]] const std::string& words() const override { return list().words; }
+  [[nodiscard]] std::string_view words() const override {
+    return canvas().isNewsOfNow(index_) ? std::string_view(canvas().speech().news) : "";
+  }
+
+  int index_;
+};
+
+class ListPart final : public Part {
+ public:
+  ListPart(const SpokenCanvas& canvas, int index)
+      : Part(canvas), index_(static_cast<std::size_t>(index)) {}
+  bool isValid() const override { return index_ < canvas().speech().lists.size(); }
+  QAccessible::Role role() const override { return QAccessible::List; }
+  int childCount() const override { return isValid() ? static_cast<int>(list().items.size()) : 0; }
+  QAccessibleInterface* child(int index) const override {
+    if (index < 0 || index >= childCount()) return nullptr;
+    return canvas().item(list().items[static_cast<std::size_t>(index)].control);
+  }
+
+ private:
+  [[nodiscard]] const SpokenList& list() const { return canvas().speech().lists[index_]; }
+  [[nodiscard]] std::string_view words() const override { return list().words; }
 
   std::size_t index_;
 };
@@ -140,7 +157,6 @@ class ItemPart final : public Part, public QAccessibleActionInterface {
  public:
   ItemPart(const SpokenCanvas& canvas, Box& control) : Part(canvas), control_(control) {}
   bool isValid() const override { return item() != nullptr; }
-  QAccessible::Role role() const override { return QAccessible::ListItem; }
   QAccessible::State state() const override {
     QAccessible::State state;
     state.invisible = !isValid();
@@ -148,20 +164,18 @@ class ItemPart final : public Part, public QAccessibleActionInterface {
     state.selected = isValid() && item()->selected;
     return state;
   }
-  QAccessibleInterface* parent() const override {
-    for (std::size_t i = 0; i < canvas().lists().size(); ++i) {
-      QAccessibleInterface* list = canvas().listAt(i);
-      if (list->indexOfChild(this) >= 0) return list;
-    }
-    return QAccessible::queryAccessibleInterface(&canvas().canvas());
-  }
   QRect rect() const override {
     const QRect place = canvas().canvas().placeOf(control_);
     return {canvas().canvas().mapToGlobal(place.topLeft()), place.size()};
   }
-  int childCount() const override { return 0; }
-  QAccessibleInterface* child(int /*index*/) const override { return nullptr; }
-  int indexOfChild(const QAccessibleInterface* /*child*/) const override { return -1; }
+  QAccessibleInterface* parent() const override {
+    QAccessibleInterface* whole = Part::parent();
+    const int count = firstList + static_cast<int>(canvas().speech().lists.size());
+    for (int i = firstList; i < count; ++i) {
+      if (whole->child(i)->indexOfChild(this) >= 0) return whole->child(i);
+    }
+    return whole;
+  }
   void* interface_cast(QAccessible::InterfaceType type) override {
     return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)
                                                 : nullptr;
@@ -175,56 +189,22 @@ class ItemPart final : public Part, public QAccessibleActionInterface {
   QStringList keyBindingsForAction(const QString& /*name*/) const override { return {}; }
 
  private:
-  [[nodiscard]] const SpokenItem* item() const {
-    return itemOf(canvas().canvas().speech(), &control_);
-  }
+  [[nodiscard]] const SpokenItem* item() const { return itemOf(canvas().speech(), &control_); }
   [[nodiscard]] bool answersPress() const { return isValid() && item()->answersPress; }
-  [[nodiscard]] const std::string& words() const override { return item()->words; }
+  [[nodiscard]] std::string_view words() const override { return item()->words; }
 
   Box& control_;
 };
 
-/// The news. A screen reader says what the accessible focus comes to, and nothing that changes
-/// where it is: so each time it goes from one such part to the other, while the keyboard stays.
-class NewsPart final : public Part {
- public:
-  NewsPart(const SpokenCanvas& canvas, std::size_t index) : Part(canvas), index_(index) {}
-  bool isValid() const override { return true; }
-  QAccessible::Role role() const override { return QAccessible::StaticText; }
-  QAccessible::State state() const override {
-    QAccessible::State state;
-    state.focusable = true;
-    state.focused = canvas().isNewsOfNow(index_);
-    state.invisible = !state.focused;
-    return state;
-  }
-  QAccessibleInterface* parent() const override {
-    return QAccessible::queryAccessibleInterface(&canvas().canvas());
-  }
-  QRect rect() const override { return canvas().rect(); }
-  int childCount() const override { return 0; }
-  QAccessibleInterface* child(int /*index*/) const override { return nullptr; }
-  int indexOfChild(const QAccessibleInterface* /*child*/) const override { return -1; }
-
- private:
-  [[nodiscard]] const std::string& words() const override {
-    static const std::string silence;
-    return canvas().isNewsOfNow(index_) ? canvas().canvas().speech().news : silence;
-  }
-
-  std::size_t index_;
-};
-
-QAccessibleInterface* SpokenCanvas::newsAt(std::size_t index) const {
-  return keep(newsIds_[index], [&] { return new NewsPart(*this, index); });
+QAccessibleInterface* SpokenCanvas::ownChild(int index) const {
+  return kept(index, nullptr, [&]() -> Part* {
+    if (index < firstList) return new NewsPart(*this, index);
+    return new ListPart(*this, index - firstList);
+  });
 }
 
-QAccessibleInterface* SpokenCanvas::listAt(std::size_t index) const {
-  return keep(listIds_[index], [&] { return new ListPart(*this, index); });
-}
-
-QAccessibleInterface* SpokenCanvas::itemAt(Box* control) const {
-  return keep(itemIds_[control], [&] { return new ItemPart(*this, *control); });
+QAccessibleInterface* SpokenCanvas::item(Box* control) const {
+  return kept(0, control, [&] { return new ItemPart(*this, *control); });
 }
 
 QAccessibleInterface* makeVoice(const QString& /*type*/, QObject* object) {
@@ -258,7 +238,7 @@ void reportChanges(const Speech& before, const Speech& now, QWidget& canvas) {
   for (const SpokenList& list : now.lists) {
     for (const SpokenItem& item : list.items) {
       const SpokenItem* old = itemOf(before, item.control);
-      QAccessibleInterface* part = tree->itemAt(item.control);
+      QAccessibleInterface* part = tree->item(item.control);
       if (old == nullptr) {
         report(part, QAccessible::ObjectCreated);
         continue;
