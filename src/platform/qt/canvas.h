@@ -37,7 +37,9 @@ class Canvas final : public QWidget {
 
   [[nodiscard]] const Speech& speech() const { return form_.speech; }
   /// Does what a double-click on the control does.
-  void press(Control& control) { events_.send(EventKind::DoubleClick, control); }
+  void press(Control& control) {
+    if (isEnabled()) events_.send(EventKind::DoubleClick, control);
+  }
 
  protected:
   void paintEvent(QPaintEvent* event) override;

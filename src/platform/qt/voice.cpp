@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QAccessibleWidget>
+#include <QTimer>
 #include <map>
 #include <utility>
 
@@ -184,7 +185,10 @@ class ItemPart final : public Part, public QAccessibleActionInterface {
     return answersPress() ? QStringList(pressAction()) : QStringList();
   }
   void doAction(const QString& name) override {
-    if (answersPress() && name == pressAction()) canvas().canvas().press(control_);
+    if (!answersPress() || name != pressAction()) return;
+    // Who asked gets an answer first: a box may open, and stay.
+    Canvas& whole = canvas().canvas();
+    QTimer::singleShot(0, &whole, [&whole, &control = control_] { whole.press(control); });
   }
   QStringList keyBindingsForAction(const QString& /*name*/) const override { return {}; }
 
