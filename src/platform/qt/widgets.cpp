@@ -136,6 +136,7 @@ QWidget* Widgets::makeText(const Label& label) {
   auto* text = new QTextEdit(&canvas_);
   text->setReadOnly(true);
   text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  text->setContextMenuPolicy(Qt::NoContextMenu);
   text->setFrameShape(QFrame::NoFrame);
   text->document()->setDocumentMargin(textMargin);
   QPalette colors = text->palette();
