@@ -95,13 +95,11 @@ bool isPlainLabel(const Control* control) {
 }
 
 /// Keys of the main window: the choice takes its own, Esc cancels it wherever the focus is, and
-/// else closes the panel, and the keys of the player's turn that the focused control has no use for
-/// go to the Discard button, which takes none while it is hidden.
+/// the keys of the player's turn that the focused control has no use for go to the Discard button,
+/// which takes none while it is hidden.
 void pressKey(MainWindow& w, const Event& event) {
   const int key = event.value;
-  if (!w.state.choiceOpen && key == keyEscape && w.state.sizePanelOpen) {
-    closeSizePanel(w);
-  } else if (w.state.choiceOpen && (event.control == &w.choice.keys || key == keyEscape)) {
+  if (w.state.choiceOpen && (event.control == &w.choice.keys || key == keyEscape)) {
     pressKeyOfChoice(w, key);
   } else if (key == keyEnter || key == keySpace) {
     pressDiscard(w);
@@ -112,11 +110,7 @@ void pressKey(MainWindow& w, const Event& event) {
 
 void dispatch(MainWindow& w, const Event& event) {
   if (event.kind == EventKind::KeyPress) {
-    if (event.form == &w.form) {
-      pressKey(w, event);
-    } else if (event.value == keyEscape) {
-      dispatch(w, {EventKind::Close, event.form, nullptr, nullptr, 0});
-    }
+    if (event.form == &w.form) pressKey(w, event);
     return;
   }
   if (event.kind == EventKind::Click && isPlainLabel(event.control)) return;

@@ -49,15 +49,22 @@ struct Glide {
 struct Form {
   std::string_view name;
   std::string caption;
-  /// Client size; the place is in the main window, and 0, 0 for any place that suits.
+  /// Client size; the place is in the main window, and 0, 0 for its middle.
   float left = 0, top = 0, width = 0, height = 0;
   bool maximized = false;
   bool visible = false;
   bool enabled = true;
   Color backColor;
   const Box* whole = nullptr;  ///< what a window of any size shows all of, in its middle
-  /// What a window that may open anywhere shall not lie on.
+  /// What the window shall not lie on; if there is any of it, the window's place is left to the
+  /// desktop.
   std::vector<const Box*> clearOf;
+  /// What Esc presses on a real desktop: the first of these that is usable. A window beside the
+  /// main one is closed if there is none.
+  std::vector<Button*> escape;
+  /// On a real desktop this button, while it is usable, has the keyboard in place of one that is
+  /// never seen.
+  Button* seenFocus = nullptr;
   /// How frames were moved since the last time the form was presented, one after the other. A
   /// desktop may show it, and clears it.
   std::vector<Glide> glides;

@@ -37,6 +37,7 @@ void placePopup(MainWindow& w) {
   const Frame& endCard = w.card(w.state.endCard[End::RightTop].value_or(0)).frame;
   w.about.form.left = endCard.left + endCard.width + popupGap;
   w.about.form.top = popupTop;
+  w.about.form.clearOf.clear();
 }
 
 }  // namespace

@@ -75,7 +75,6 @@ void startTutorial(MainWindow& w) {
   s.demo.busy = false;
   w.tutorial.show(true);
   startAnotherGame(w);
-  w.form.giveFocus(w.tutorial.next);
   w.menu.screenOption.enabled = false;
   w.menu.file.enabled = false;
   w.menu.helpScreenOption.enabled = false;

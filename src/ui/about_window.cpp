@@ -44,7 +44,7 @@ AboutWindow::AboutWindow() {
   design(link, {120, 720, 5895, 375}, "Click:  " + std::string(homepageAddress), linkText);
   link.link = true;
   designEmblem(*this);
-  design(tip, {120, 1200, 6015, 2310}, "", bodyText);
+  design(tip, {120, 1200, 6015, 2175}, "", bodyText);
   tip.scrolls = true;
   design(ok, {2760, 2520, 972, 492}, "OK");
 

@@ -23,7 +23,6 @@ double MainWindow::scaleFactor() const { return scaleOf(state.screenValue, state
 
 void MainWindow::keepAboutClear() {
   Form& window = about.form;
-  window.left = window.top = 0;
   window.clearOf = {&choice.leftBottom, &choice.rightTop, &choice.cancel};
   for (std::size_t i = 0; i < cardCount; ++i) {
     if (!state.cards[i].held) window.clearOf.push_back(&cards[i].frame);

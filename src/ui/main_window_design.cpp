@@ -256,6 +256,8 @@ void MainWindow::designControls() {
   form.whole = &table.whole;
   form.timer = &timer;
   form.defaultFocus = &discard;
+  form.escape = {&choice.cancel, &sizePanel.ok};
+  form.seenFocus = &tutorial.next;
 
   designTable(table);
   for (CardControls& card : cards) designCard(card);

@@ -87,6 +87,8 @@ TEST(Statistics, StartAgainAt999) {
   }
   EXPECT_EQ(figuresOf(record("1")).won, 1);
   EXPECT_EQ(figuresOf(record("1")).lost, 1);
+  EXPECT_EQ(figuresOf(record("002000")).wonPercent, 100);
+  EXPECT_EQ(figuresOf(record("000002")).lostPercent, 100);
   EXPECT_EQ(updatedRecord(record("1"), RecordMode::Won).text, encodeDigits("0021") + "\r\n");
 }
 

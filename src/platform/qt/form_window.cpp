@@ -70,8 +70,10 @@ FormWindow::FormWindow(Form& form, Deliver deliver, FormWindow* mainWindow)
 void FormWindow::flush() {
   flushing_ = true;
   setWindowTitle(toText(form_.caption));
-  const Position position{form_.left, form_.top};
-  if (std::exchange(flushedPosition_, position) != position && main_ != nullptr) moveToItsPlace();
+  const Whereabouts whereabouts{{form_.left, form_.top}, !form_.clearOf.empty()};
+  if (std::exchange(flushedWhereabouts_, whereabouts) != whereabouts && main_ != nullptr) {
+    moveToItsPlace();
+  }
   if (menu_ != nullptr) {
     menu_->flush();
     menuBar()->setEnabled(form_.enabled);
@@ -97,6 +99,9 @@ void FormWindow::flushTimer() {
 }
 
 void FormWindow::flushFocus() {
+  const bool unseen = form_.focus != nullptr && form_.focus->kind == ControlKind::Button &&
+                      static_cast<const Button*>(form_.focus)->keysOnly;
+  if (unseen && form_.seenFocus != nullptr) form_.giveFocus(*form_.seenFocus);
   QWidget& wanted = canvas_->keyboardOf(form_.focus);
   const bool asBefore = form_.focus == std::exchange(flushedFocus_, form_.focus);
   // The player may have taken it to a link or a text, of which the game knows nothing.
@@ -125,7 +130,7 @@ void FormWindow::moveToItsPlace() {
 
 QPoint FormWindow::itsPlace() const {
   const Canvas& table = *main_->canvas_;
-  if (form_.left != 0 || form_.top != 0) {
+  if (form_.clearOf.empty() && (form_.left != 0 || form_.top != 0)) {
     return table.mapToGlobal(table.toPixels(Position{form_.left, form_.top}));
   }
   std::vector<QRect> clear;
@@ -177,12 +182,19 @@ void FormWindow::passKeyboardOn() {
 
 void FormWindow::keyPressEvent(QKeyEvent* event) {
   const int key = keyCodeOf(*event);
-  if (key == 0 || !form_.enabled) return;
-  if (form_.focus != nullptr && form_.focus->usable()) {
-    deliver_(keyEvent(form_, key));
-  } else if (key == keyEscape) {  // leaves a window also where nothing has the focus
-    deliver_({EventKind::KeyPress, &form_, nullptr, nullptr, key});
+  if (key == 0 || !form_.enabled || (key == keyEscape && escape())) return;
+  if (form_.focus != nullptr && form_.focus->usable()) deliver_(keyEvent(form_, key));
+}
+
+bool FormWindow::escape() {
+  const auto found = std::find_if(form_.escape.begin(), form_.escape.end(),
+                                  [](const Button* button) { return button->usable(); });
+  if (found != form_.escape.end()) {
+    send(EventKind::Click, **found, 0);
+  } else if (main_ != nullptr) {
+    close();
   }
+  return found != form_.escape.end() || main_ != nullptr;
 }
 
 void FormWindow::tick() {

@@ -50,7 +50,12 @@ class FormWindow final : public QMainWindow, private ControlEvents {
   void passKeyboardOn();
   void flushTimer();
   void flushFocus();
+  /// Whether there is something that Esc presses or closes.
+  bool escape();
   void tick();
+
+  /// Where the form wants its window, and whether it leaves that to the desktop.
+  using Whereabouts = std::pair<Position, bool>;
 
   Form& form_;
   Deliver deliver_;
@@ -63,7 +68,7 @@ class FormWindow final : public QMainWindow, private ControlEvents {
   bool tickDue_ = false;
   bool flushing_ = false;
   Control* flushedFocus_ = nullptr;
-  Position flushedPosition_;
+  Whereabouts flushedWhereabouts_;
 };
 
 }  // namespace mevracard

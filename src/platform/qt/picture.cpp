@@ -51,7 +51,10 @@ class Maker {
           item.place = spanOf(static_cast<const Line&>(**c), item.view);
           picture_.push_back(item);
           break;
-        default:
+        case ControlKind::Button:  // that only takes keys, or a widget
+        case ControlKind::ScrollBar:
+          break;
+        case ControlKind::Shape:
           item.look = static_cast<const Shape&>(**c);
           item.place = boxOf(static_cast<const Shape&>(**c), item.view);
           picture_.push_back(item);

@@ -90,7 +90,9 @@ QRect Widgets::placeOf(const Box& box) const {
   const QRect dots = views_.placeOf(box);
   const QSize size = (QSizeF(dots.size()) / ratio).toSize();
   QRect place((QPointF(dots.topLeft()) / ratio).toPoint(), size);
-  // A button that would stand on a text stands at its lower end instead, and the text ends above.
+  // A text has the room down to the window's lower edge. A button that would stand on it stands at
+  // its lower end instead, and the text ends above.
+  if (isText(box)) place.setBottom(canvas_.height() - textMargin);
   for (const Control* other : form_.controls) {
     if (!isShown(*other) || isText(*other) == isText(box)) continue;
     const QRect theirs = views_.placeOf(static_cast<const Box&>(*other));
@@ -135,6 +137,7 @@ QWidget* Widgets::makeText(const Label& label) {
   auto* text = new QTextEdit(&canvas_);
   text->setReadOnly(true);
   text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  text->setContextMenuPolicy(Qt::NoContextMenu);
   text->setFrameShape(QFrame::NoFrame);
   text->document()->setDocumentMargin(textMargin);
   QPalette colors = text->palette();
