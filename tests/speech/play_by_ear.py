@@ -56,13 +56,13 @@ class Player:
             self.news.append((event.source, event.source.get_name()))
 
     def next_news(self):
-        timeouts = []
-        patience = GLib.timeout_add_seconds(PATIENCE, timeouts.append, True)
+        beats = []
+        heart = GLib.timeout_add_seconds(1, lambda: beats.append(1) or True)
         while not self.news:
             GLib.MainContext.default().iteration(True)
-            if timeouts:
-                self.fail("nothing is said any more")
-        GLib.source_remove(patience)
+            if self.game.poll() is not None or len(beats) > PATIENCE:
+                self.fail("the game has ended" if self.game.poll() else "nothing is said any more")
+        GLib.source_remove(heart)
         return self.news.pop(0)
 
     def play(self):
@@ -88,9 +88,9 @@ class Player:
 
     def look_for_covered_cards(self, words):
         desktop = Atspi.get_desktop(0)
-        programs = [desktop.get_child_at_index(i) for i in range(desktop.get_child_count())]
-        mine = [p for p in programs if p and p.get_process_id() == self.game.pid]
-        all_parts = list(parts(mine[0]))
+        programs = map(desktop.get_child_at_index, range(desktop.get_child_count()))
+        game = next(p for p in programs if p and p.get_process_id() == self.game.pid)
+        all_parts = list(parts(game))
         lists = {p.get_name(): p for p in all_parts if p.get_role() == Atspi.Role.LIST}
         items = {name: [item.get_name() for item in parts(p)] for name, p in lists.items()}
         if self.hand is None and items["Your cards"]:

@@ -105,10 +105,11 @@ void FormWindow::flushFocus() {
   QWidget& wanted = canvas_->keyboardOf(form_.focus);
   const bool asBefore = form_.focus == std::exchange(flushedFocus_, form_.focus);
   // The player may have taken it to a link or a text, of which the game knows nothing.
-  const QWidget* now = focusWidget();
+  QWidget* now = focusWidget();
   const bool stays = asBefore && now != nullptr && now->isVisible() && canvas_->isPlayersOwn(*now);
-  voice_.flush(form_.speech, *canvas_, stays ? *focusWidget() : wanted);
-  if (!stays && now != &wanted) wanted.setFocus(Qt::OtherFocusReason);
+  QWidget& listener = stays ? *now : wanted;
+  voice_.flush(form_.speech, *canvas_, listener);
+  if (now != &listener) listener.setFocus(Qt::OtherFocusReason);
 }
 
 void FormWindow::open() {
