@@ -22,7 +22,7 @@ TEST(Glide, EndsInPlaceAndEatsNoKey) {
   ASSERT_TRUE(screen.waitFor([&] { return !w.state.card(*fitting).held; }));
   screen.key("p");  // in mid-glide
   ASSERT_TRUE(screen.waitFor([&] { return w.state.selectedCard != noSelection; }, 500));
-  screen.settle(300);
+  Screen::wait(300);
   // As far from another control as the design says: the window has room for the table's own size.
   const Box& box = w.table.boxes[1];
   const QPoint way =

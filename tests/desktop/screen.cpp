@@ -1,53 +1,12 @@
 #include "screen.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
-#include <QFile>
-#include <QMessageBox>
-#include <QScreen>
 
 #include <QtTest/QTest>
 
-#include "store/statistics.h"
-
 namespace mevracard {
 
-namespace {
-
-QString folderWith(const QTemporaryDir& home, const char* settings) {
-  QFile file(home.filePath("wdx.sys"));
-  (void)file.open(QIODevice::WriteOnly);
-  file.write(settings);
-  QFile record(home.filePath("sys32rtn.dat"));
-  (void)record.open(QIODevice::WriteOnly);
-  record.write(QByteArray::fromStdString(emptyRecordText()));
-  return home.path();
-}
-
-}  // namespace
-
-SteadyDesktop::SteadyDesktop(const QString& dataDir, int seed) : QtDesktop(dataDir, {}) {
-  random_.seed(seed);
-}
-
-Screen::Screen(int seed, const char* settings)
-    : desktop_(folderWith(home_, settings), seed), program_(desktop_) {
-  QObject::connect(&closer_, &QTimer::timeout, [this] { closeMessageBox(); });
-  closer_.start(30);
-}
-
-void Screen::closeMessageBox() {
-  auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-  if (!answersBoxes || box == nullptr || !box->isActiveWindow()) return;
-  messages.push_back(box->text().toStdString());
-  QTest::keyClick(box, Qt::Key_Return);
-}
-
-void Screen::start() {
-  program_.start();
-  waitFor([] { return QApplication::activeWindow() != nullptr; });
-  settle(200);
-}
+Screen::Screen(int seed, const std::string& settings) : WindowGame(seed, settings) {}
 
 QWidget& Screen::mainWidget() const {
   for (QWidget* top : QApplication::topLevelWidgets()) {
@@ -65,7 +24,7 @@ QWidget& Screen::widget(const Control& control) const {
 }
 
 std::optional<QRect> Screen::painted(const Control& control) const {
-  for (const auto& window : desktop_.windows()) {
+  for (const auto& window : desktop().windows()) {
     if (!window->isVisible()) continue;
     const double ratio = window->devicePixelRatioF();
     for (const Item& item : window->canvas().picture()) {
@@ -78,7 +37,7 @@ std::optional<QRect> Screen::painted(const Control& control) const {
 }
 
 QRect Screen::place(const Box& control) const {
-  for (const auto& window : desktop_.windows()) {
+  for (const auto& window : desktop().windows()) {
     if (window->form().holds(control)) return window->placeOnScreen(control);
   }
   throw std::runtime_error("not on the screen: " + control.fullName());
@@ -100,21 +59,7 @@ void Screen::doubleClick(const Box& control) {
 void Screen::key(const std::string& name) { tool({"key", QString::fromStdString(name)}); }
 
 bool Screen::waitFor(const std::function<bool()>& condition, int patience) {
-  QElapsedTimer time;
-  time.start();
-  while (!condition()) {
-    if (time.elapsed() > patience) return false;
-    QTest::qWait(5);
-  }
-  return true;
-}
-
-void Screen::settle(int milliseconds) { QTest::qWait(milliseconds); }
-
-void Screen::shoot(const std::string& name) {
-  settle(250);
-  const QPixmap picture = QGuiApplication::primaryScreen()->grabWindow(0);
-  picture.save(QString::fromStdString(name) + ".png");
+  return QTest::qWaitFor(condition, patience);
 }
 
 QPoint Screen::pointer() {

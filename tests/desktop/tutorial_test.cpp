@@ -13,8 +13,8 @@ void startTutorial(Screen& screen) {
   screen.start();
   screen.key("alt+p");
   ASSERT_TRUE(screen.waitFor([&] { return screen.messages.size() == 2; }));
-  screen.settle(200);
-  screen.shoot("tutorial-start");
+  Screen::wait(200);
+  Screen::shoot("tutorial-start");
 }
 
 struct Case {
@@ -38,11 +38,11 @@ TEST(Demonstration, EndsOnTheMarkedNumber) {
     s.openNumber = {};
     screen.click(w.tutorial.next);
     ASSERT_TRUE(screen.waitFor([&] { return s.demo.busy; }));
-    screen.settle(50);
+    Screen::wait(50);
     const Label& marked = w.card(c.column).lower;
     const QRect target = screen.place(marked);
     EXPECT_EQ(marked.backColor, (Color{255, 0, 0}));
-    if (c.column == 6) screen.shoot("demonstration");
+    if (c.column == 6) Screen::shoot("demonstration");
     ASSERT_TRUE(screen.waitFor([&] { return !s.demo.busy; }, 15000));
     const QPoint pointer = Screen::pointer();
     EXPECT_TRUE(target.contains(pointer)) << pointer.x() << ", " << pointer.y();

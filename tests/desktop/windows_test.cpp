@@ -20,7 +20,7 @@ namespace {
 void chooseFromMenu(Screen& screen, std::initializer_list<const char*> keys) {
   for (const char* key : keys) {
     screen.key(key);
-    screen.settle(120);
+    Screen::wait(120);
   }
 }
 
@@ -35,13 +35,13 @@ TEST(Menus, AnswerAccessKeys) {
   EXPECT_FALSE(w.menu.computerLevel1.checked);
   chooseFromMenu(screen, {"alt+f", "s"});
   ASSERT_TRUE(screen.waitFor([&] { return w.statistics.form.visible; }));
-  screen.shoot("statistics");
+  Screen::shoot("statistics");
   EXPECT_FALSE(w.form.enabled);
   screen.key("Return");
   ASSERT_TRUE(screen.waitFor([&] { return w.form.enabled; }));
   chooseFromMenu(screen, {"alt+h", "a"});
   ASSERT_TRUE(screen.waitFor([&] { return w.about.form.visible; }));
-  screen.shoot("about");
+  Screen::shoot("about");
   chooseFromMenu(screen, {"alt+F4"});
   ASSERT_TRUE(screen.waitFor([&] { return !w.about.form.visible; }));
   chooseFromMenu(screen, {"alt+f", "n"});
@@ -69,7 +69,7 @@ TEST(Keys, LeaveWindowsAndSizeTheTable) {
   chooseFromMenu(screen, {"alt+o"});
   screen.click(w.sizePanel.bar);
   ASSERT_TRUE(screen.waitFor([&] { return w.form.focus == &w.sizePanel.bar; }));
-  screen.settle(200);  // the click has moved it too
+  Screen::wait(200);  // the click has moved it too
   const int clicked = w.sizePanel.bar.value;
   screen.key("Left");
   EXPECT_TRUE(screen.waitFor([&] { return w.sizePanel.bar.value == clicked - 1; }));
@@ -97,10 +97,10 @@ TEST(SmallWindow, ShowsTheWholeTableAndTheStatusInFront) {
   QWidget& window = screen.mainWidget();
   window.showNormal();
   window.resize(window.minimumSize());
-  screen.settle(300);
+  Screen::wait(300);
   chooseFromMenu(screen, {"alt+o"});
   EXPECT_TRUE(isBefore(screen, w.sizePanel.ground, w.status));
-  screen.shoot("small-window");
+  Screen::shoot("small-window");
   for (const Box* box :
        std::initializer_list<Box*>{&w.card(0).frame, &w.card(13).frame, &w.table.counterHeadings[0],
                                    &w.table.counterHeadings[3]}) {
@@ -119,7 +119,7 @@ TEST(Tips, FitTheirWindow) {
   screen.state().tipText = tipHeading() + sameNumberTip(3, 5);
   chooseFromMenu(screen, {"alt+h", "t"});
   ASSERT_TRUE(screen.waitFor([&] { return w.about.form.visible; }));
-  screen.shoot("tips");
+  Screen::shoot("tips");
   for (const auto* bar : screen.widget(w.about.tip).findChildren<QScrollBar*>()) {
     EXPECT_FALSE(bar->isVisible());
   }
@@ -183,7 +183,7 @@ TEST(SystemEnd, CountsARunningGameOnceWhateverIsOpen) {
 }
 
 QImage pictureOfTable(Screen& screen) {
-  screen.settle(800);  // no card glides any more
+  Screen::wait(800);  // no card glides any more
   return screen.mainWidget().grab().toImage();
 }
 
@@ -197,13 +197,13 @@ TEST(ScreenSize, ComesBackToTheSamePicture) {
   const QImage fresh = pictureOfTable(screen);
   chooseFromMenu(screen, {"alt+o"});
   ASSERT_TRUE(screen.waitFor([&] { return w.sizePanel.bar.visible; }));
-  screen.shoot("panel");
+  Screen::shoot("panel");
   auto& bar = dynamic_cast<QScrollBar&>(screen.widget(w.sizePanel.bar));
   for (int round = 0; round < 20; ++round) {
     for (int value = 98; value >= 70; --value)
       bar.triggerAction(QAbstractSlider::SliderSingleStepSub);
     ASSERT_EQ(w.sizePanel.bar.value, 70);
-    if (round == 0) screen.shoot("smallest");
+    if (round == 0) Screen::shoot("smallest");
     for (int value = 71; value <= 99; ++value)
       bar.triggerAction(QAbstractSlider::SliderSingleStepAdd);
     ASSERT_EQ(w.sizePanel.bar.value, 99);
