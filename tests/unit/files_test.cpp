@@ -73,6 +73,7 @@ TEST(Statistics, CountAndKeepWhatFollowsTheRecord) {
   EXPECT_EQ(updatedRecord(record("012345", "tail"), RecordMode::Clear).text,
             record("000000", "tail"));
   EXPECT_FALSE(updatedRecord(record("499499"), RecordMode::Won).startedAgain);
+  EXPECT_EQ(updatedRecord(encodeDigits("000000") + "\n", RecordMode::Won).text, record("001000"));
   const std::string much(8'000'000, 'z');
   EXPECT_EQ(updatedRecord(record("000000", much), RecordMode::Won).text, record("001000", much));
 }

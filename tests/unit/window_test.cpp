@@ -126,7 +126,7 @@ long cardsBehindStatus(const MainWindow& w) {
 }
 
 // QUIRK-18: hands lie behind the first message, are hidden behind that of the next deal. The panel
-// sends the status line behind the cards, a pass of the computer's brings it in front.
+// sends the status line behind all, an opening and a pass of the computer's bring it in front.
 TEST(Windows, ShowTheRightThingsBehindMessages) {
   std::vector<bool> hands;
   std::string status;
@@ -144,11 +144,15 @@ TEST(Windows, ShowTheRightThingsBehindMessages) {
   MainWindow& w = program.window();
   window = &w;
   program.start();
+  desktop.menu(w.menu.screenOption);
+  EXPECT_EQ(cardsBehindStatus(w), 0);
+  w.form.sendToBack(w.cards[0].frame);  // behind the cards, not behind the table
+  EXPECT_EQ(w.form.controls.front(), &w.status);
   desktop.menu(w.menu.newGame);  // tells of the abort, then of the deal
+  EXPECT_EQ(cardsBehindStatus(w), cardCount);
   EXPECT_EQ(hands, (std::vector{true, true, false}));
 
   desktop.menu(w.menu.screenOption);
-  EXPECT_EQ(cardsBehindStatus(w), 0);
   for (const int slot : handOf(Side::Computer)) w.state.card(slot).held = false;
   Card& card = w.state.card(0);
   card.held = true;
