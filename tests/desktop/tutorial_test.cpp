@@ -24,8 +24,8 @@ struct Case {
 
 // The pointer must end on the marked number wherever the card stands and at every size.
 TEST(Demonstration, EndsOnTheMarkedNumber) {
-  for (const Case& c : {Case{0, "1/1/99\r\n"}, Case{6, "1/1/99\r\n"}, Case{13, "1/1/99\r\n"},
-                        Case{0, "1/1/70\r\n"}, Case{6, "1/1/70\r\n"}, Case{13, "1/1/70\r\n"}}) {
+  for (const Case& c : {Case{0, "1/1/99"}, Case{6, "1/1/99"}, Case{13, "1/1/99"}, Case{0, "1/1/70"},
+                        Case{6, "1/1/70"}, Case{13, "1/1/70"}}) {
     SCOPED_TRACE(c.column);
     Screen screen(3, c.settings);
     startTutorial(screen);

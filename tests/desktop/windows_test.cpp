@@ -18,6 +18,9 @@ namespace mevracard {
 namespace {
 
 void chooseFromMenu(Screen& screen, std::initializer_list<const char*> keys) {
+  // A window that has just been closed gives the keyboard back in its own time.
+  Screen::wait(100);
+  ASSERT_TRUE(screen.waitFor([] { return QApplication::activeWindow() != nullptr; }));
   for (const char* key : keys) {
     screen.key(key);
     Screen::wait(120);

@@ -10,7 +10,7 @@
 #include <unistd.h>
 
 #include "files/disk_desktop.h"
-#include "files/failing_calls.h"
+#include "testing/failing_calls.h"
 
 namespace mevracard {
 namespace {

@@ -31,12 +31,12 @@
 #include <QtTest/qtestmouse.h>
 
 #include "app/program.h"
-#include "monkey/clock.h"
 #include "monkey/promises.h"
-#include "monkey/trail.h"
 #include "platform/qt/qt_desktop.h"
 #include "store/settings.h"
 #include "store/statistics.h"
+#include "testing/clock.h"
+#include "testing/trail.h"
 
 namespace mevracard::monkey {
 namespace {

@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "game/rules.h"
-#include "monkey/trail.h"
 #include "simulate/player.h"
+#include "testing/trail.h"
 
 namespace mevracard::monkey {
 

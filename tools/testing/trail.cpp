@@ -1,4 +1,4 @@
-#include "monkey/trail.h"
+#include "testing/trail.h"
 
 #include <array>
 #include <csignal>

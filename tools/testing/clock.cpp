@@ -1,4 +1,4 @@
-#include "monkey/clock.h"
+#include "testing/clock.h"
 
 #include <ctime>
 

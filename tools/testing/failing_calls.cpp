@@ -1,5 +1,5 @@
 // The program's own definitions of some system calls, found before the library's.
-#include "files/failing_calls.h"
+#include "testing/failing_calls.h"
 
 #include <cerrno>
 #include <cstdarg>
