@@ -36,6 +36,9 @@ class SpokenCanvas final : public QAccessibleWidget {
  public:
   explicit SpokenCanvas(Canvas& canvas)
       : QAccessibleWidget(&canvas, QAccessible::LayeredPane), canvas_(canvas) {}
+  ~SpokenCanvas() override {
+    for (const auto& [key, id] : ids_) QAccessible::deleteAccessibleInterface(id);
+  }
 
   [[nodiscard]] Canvas& canvas() const { return canvas_; }
   [[nodiscard]] const Speech& speech() const { return canvas_.speech(); }
@@ -56,11 +59,6 @@ class SpokenCanvas final : public QAccessibleWidget {
     QAccessible::State state = QAccessibleWidget::state();
     state.focusable = true;
     return state;
-  }
-
- protected:
-  ~SpokenCanvas() override {
-    for (const auto& [key, id] : ids_) QAccessible::deleteAccessibleInterface(id);
   }
 
  private:
