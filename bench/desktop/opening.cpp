@@ -11,6 +11,7 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <fstream>
 
 #include "app/program.h"
 #include "platform/qt/run.h"
@@ -64,9 +65,10 @@ class Watch final : public QObject {
 
 int openTheGame(char** argv, long long spawned) {
   const QTemporaryDir home;
-  const DesktopSetup setup{argv,
-                           home.filePath("data").toStdString(),
-                           {{"wdx.sys", "1/1/99\r\n"}, {"sys32rtn.dat", emptyRecordText()}}};
+  // As at any start but the first, which waits for the disk.
+  std::ofstream(home.filePath("wdx.sys").toStdString()) << "1/1/99\r\n";
+  std::ofstream(home.filePath("sys32rtn.dat").toStdString()) << emptyRecordText();
+  const DesktopSetup setup{argv, home.path().toStdString(), {}};
   return runOnDesktop(setup, [&](Desktop& desktop, const std::function<void()>& loop) {
     const Watch watch(spawned);
     Program program(desktop);
