@@ -57,7 +57,7 @@ void paintLook(QPainter& painter, const Item& item, const Line& line) {
     return;
   }
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(toColor(line.borderColor), width, Qt::SolidLine, Qt::RoundCap));
+  painter.setPen(QPen(toColor(line.borderColor), width, Qt::SolidLine, Qt::FlatCap));
   painter.drawLine(from, to);
 }
 
