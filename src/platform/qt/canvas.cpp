@@ -38,9 +38,10 @@ void Canvas::flush() {
 }
 
 void Canvas::repaintChanges() {
-  views_ = viewsNow();
+  const Views viewsBefore = std::exchange(views_, viewsNow());
   const Picture before = std::exchange(picture_, pictureOf(form_, views_, glides_));
-  if (std::exchange(backColor_, form_.backColor) != form_.backColor || before.empty()) {
+  const Color colorBefore = std::exchange(backColor_, form_.backColor);
+  if (views_ != viewsBefore || backColor_ != colorBefore) {
     update();
   } else {
     for (const QRect& dots : difference(before, picture_)) update(toPixels(dots));
