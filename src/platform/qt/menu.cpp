@@ -17,7 +17,6 @@ void closeMenus() {
 Menu::Menu(QMenuBar& bar, const std::vector<MenuEntry*>& entries,
            std::function<void(MenuEntry&)> chosen)
     : chosen_(std::move(chosen)) {
-  bar.setNativeMenuBar(false);
   add(bar, entries);
 }
 
