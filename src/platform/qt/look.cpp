@@ -65,9 +65,13 @@ QRect areaOf(const QWidget& window) {
 void applyLook() {
   QApplication::setStyle(QStyleFactory::create("Fusion"));
   QApplication::setPalette(lightPalette());
-  QApplication::setWindowIcon(QIcon(":/mevracard.png"));
   QApplication::setLayoutDirection(Qt::LeftToRight);
   QApplication::setFont(toFont({"MS Sans Serif", 9.75F}, 1));
+}
+
+void applyIcon() {
+  // The format said, so that the toolkit does not load a library for every other one first.
+  QApplication::setWindowIcon(QPixmap(":/mevracard.png", "PNG"));
 }
 
 }  // namespace mevracard

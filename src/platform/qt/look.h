@@ -24,5 +24,7 @@ namespace mevracard {
 
 /// One light look for the whole program, whatever the desktop's theme says.
 void applyLook();
+/// The icon of every window, also of those that are open.
+void applyIcon();
 
 }  // namespace mevracard

@@ -35,8 +35,13 @@ class QtDesktop::Busy {
 QtDesktop::QtDesktop(const QString& dataDir, const std::vector<DefaultFile>& defaults)
     : files_(dataDir, defaults) {
   applyLook();
-  askAboutMotion();
   installVoices();
+  // What the first picture does not need waits until it is there.
+  constexpr int afterOpening = 100;  // ms
+  QTimer::singleShot(afterOpening, &dueTicks_, [] {
+    applyIcon();
+    askAboutMotion();
+  });
   QGuiApplication::setQuitOnLastWindowClosed(false);
   dueTicks_.setSingleShot(true);
   QObject::connect(&dueTicks_, &QTimer::timeout, &dueTicks_, [this] { deliverDueTicks(); });
