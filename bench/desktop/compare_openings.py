@@ -1,7 +1,8 @@
 """compare_openings.py OPENING [ROUNDS]: the game's opening beside an empty window's, in turn.
 
 OPENING is the program built of opening.cpp. Prints the medians of the time until all is painted and
-of the memory, and what the game takes of the empty window's. Needs a display:
+of the memory, and of what each of the game's takes of the empty window's beside it, which holds
+while the machine's speed drifts. Needs a display:
 
     tools/testing/with_display.sh 1920x1080 python3 bench/desktop/compare_openings.py \\
         build/release/bench/opening
@@ -30,5 +31,7 @@ for number in range(rounds + 1):
         if number > 0:  # the first round warms the caches
             figures[kind].append(figure)
 for column, (name, unit) in enumerate((("painted after", 1000), ("memory", 1024))):
-    game, empty = (statistics.median(row[column] for row in figures[kind]) / unit for kind in kinds)
-    print(f"{name:14} game {game:7.1f}  empty {empty:7.1f}  {game / empty:.3f}")
+    game, empty = ([row[column] / unit for row in figures[kind]] for kind in kinds)
+    ratio = statistics.median(a / b for a, b in zip(game, empty))
+    game, empty = statistics.median(game), statistics.median(empty)
+    print(f"{name:14} game {game:7.1f}  empty {empty:7.1f}  {ratio:.3f}")

@@ -63,11 +63,13 @@ class Watch final : public QObject {
   QTimer quiet_;
 };
 
-int openTheGame(char** argv, long long spawned) {
-  const QTemporaryDir home;
-  // As at any start but the first, which waits for the disk.
+/// The player's files as at any start but the first, which waits for the disk.
+void fill(const QTemporaryDir& home) {
   std::ofstream(home.filePath("wdx.sys").toStdString()) << "1/1/99\r\n";
   std::ofstream(home.filePath("sys32rtn.dat").toStdString()) << emptyRecordText();
+}
+
+int openTheGame(char** argv, const QTemporaryDir& home, long long spawned) {
   const DesktopSetup setup{argv, home.path().toStdString(), {}};
   return runOnDesktop(setup, [&](Desktop& desktop, const std::function<void()>& loop) {
     const Watch watch(spawned);
@@ -95,6 +97,8 @@ int openAnEmptyWindow(int argc, char** argv, long long spawned) {
 int main(int argc, char** argv) {
   if (argc != 3) return 2;
   const long long spawned = std::atoll(argv[2]);
-  return std::string_view(argv[1]) == "game" ? mevracard::openTheGame(argv, spawned)
+  const QTemporaryDir home;  // for the empty window too, so that both have waited for it
+  mevracard::fill(home);
+  return std::string_view(argv[1]) == "game" ? mevracard::openTheGame(argv, home, spawned)
                                              : mevracard::openAnEmptyWindow(1, argv, spawned);
 }
