@@ -30,7 +30,8 @@ void shoot(const char* name) {
 class PosingDesktop final : public QtDesktop {
  public:
   explicit PosingDesktop(const QString& dataDir)
-      : QtDesktop(dataDir, {{"wdx.sys", "1/1/99\r\n"}, {"sys32rtn.dat", emptyRecordText()}}) {
+      : QtDesktop(dataDir.toStdString(),
+                  {{"wdx.sys", "1/1/99\r\n"}, {"sys32rtn.dat", emptyRecordText()}}) {
     QtDesktop::seedRandom(3);
   }
   void seedRandom(double /*seed*/) override {}

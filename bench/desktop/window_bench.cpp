@@ -19,8 +19,8 @@ namespace {
 class QuietDesktop final : public QtDesktop {
  public:
   explicit QuietDesktop(const QString& dataDir)
-      : QtDesktop(dataDir, {{std::string(settingsFile), defaultSettingsText()},
-                            {std::string(statisticsFile), emptyRecordText()}}) {}
+      : QtDesktop(dataDir.toStdString(), {{std::string(settingsFile), defaultSettingsText()},
+                                          {std::string(statisticsFile), emptyRecordText()}}) {}
   void messageBox(std::string_view /*text*/) override {}
 };
 

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "app/program.h"
+#include "platform/files/data_files.h"
 #include "platform/headless/headless_desktop.h"
-#include "platform/qt/data_files.h"
 #include "play/game_menu.h"
 #include "store/settings.h"
 #include "store/statistics.h"
@@ -20,9 +20,8 @@ class DiskDesktop : public HeadlessDesktop {
  public:
   explicit DiskDesktop(const std::filesystem::path& directory, Sink sink = {})
       : HeadlessDesktop(std::move(sink)),
-        files_(QString::fromStdString(directory),
-               {{std::string(settingsFile), defaultSettingsText()},
-                {std::string(statisticsFile), emptyRecordText()}}) {}
+        files_(directory, {{std::string(settingsFile), defaultSettingsText()},
+                           {std::string(statisticsFile), emptyRecordText()}}) {}
 
   std::string readFile(std::string_view name) override { return files_.read(name); }
   void writeFile(std::string_view name, std::string_view text) override {

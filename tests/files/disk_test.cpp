@@ -1,4 +1,5 @@
-// The data files on the real disk while the disk fails, and while the program is killed.
+// The data files on the real disk: while nothing fails, while the disk fails, and while the program
+// is killed.
 #include <csignal>
 #include <cstdlib>
 #include <random>
@@ -6,6 +7,7 @@
 #include <stdexcept>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -43,6 +45,31 @@ class Home {
  private:
   std::string root_ = (fs::temp_directory_path() / "mevracard-test.XXXXXX").string();
 };
+
+// A write must be whole, keep the permissions and lose no record that another program completed in
+// between. A file that is missing for a reason does not come back unasked, and what is no plain
+// file is refused and stays.
+TEST(DataFiles, AreReplacedWholeOrNotAtAll) {
+  const Home home;
+  fs::create_directory(home.game());
+  const DataFiles files(home.game(), {{"missing", "default"}});
+  files.write("record", "one");
+  constexpr auto permissions =
+      fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read;
+  fs::permissions(home.game() / "record", permissions);
+  EXPECT_TRUE(files.exchange("record", "one", std::string(1'000'000, 'x')));
+  EXPECT_FALSE(files.exchange("record", "one", "two"));
+  EXPECT_EQ(files.read("record").size(), 1'000'000U);
+  EXPECT_EQ(fs::status(home.game() / "record").permissions(), permissions);
+  EXPECT_THROW((void)files.read("missing"), PlatformError);
+  fs::create_directory(home.game() / "folder");
+  ASSERT_EQ(::mkfifo((home.game() / "pipe").c_str(), 0600), 0);
+  for (const char* name : {"folder", "pipe"}) {
+    EXPECT_THROW((void)files.read(name), PlatformError);
+    EXPECT_THROW(files.write(name, "one"), PlatformError);
+  }
+  EXPECT_EQ(entriesIn(home.game()), 3);
+}
 
 struct Situation {
   const char* name;

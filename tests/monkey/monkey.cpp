@@ -56,8 +56,8 @@ QWindowList visibleWindows() {
 class WatchedDesktop final : public QtDesktop {
  public:
   explicit WatchedDesktop(const QString& files)
-      : QtDesktop(files, {{std::string(settingsFile), "1/1/99\r\n"},
-                          {std::string(statisticsFile), emptyRecordText()}}) {}
+      : QtDesktop(files.toStdString(), {{std::string(settingsFile), "1/1/99\r\n"},
+                                        {std::string(statisticsFile), emptyRecordText()}}) {}
 
   void attach(std::vector<Form*> forms, std::function<void(const Event&)> handler) override {
     windows = forms;

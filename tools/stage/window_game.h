@@ -14,7 +14,8 @@ namespace mevracard {
 /// The real desktop with the same draws in every deal, so that every run plays the same game.
 class SteadyDesktop final : public QtDesktop {
  public:
-  SteadyDesktop(const QString& dataDir, int seed) : QtDesktop(dataDir, {}), seed_(seed) {}
+  SteadyDesktop(const QString& dataDir, int seed)
+      : QtDesktop(dataDir.toStdString(), {}), seed_(seed) {}
   void seedRandom(double /*seed*/) override { random_.seed(seed_); }
   [[nodiscard]] double random() override { return random_.next(); }
 

@@ -5,7 +5,8 @@
 namespace mevracard {
 
 /// While one lives, system calls of this thread fail with an input/output error: the `first`-th
-/// call of this name, and every later one as well if `onwards`.
+/// call of this name, and every later one as well if `onwards`. To open a file to read it is called
+/// "read".
 class FailingCalls {
  public:
   FailingCalls(std::string call, int first, bool onwards);

@@ -32,7 +32,7 @@ class QtDesktop::Busy {
   QtDesktop& desktop_;
 };
 
-QtDesktop::QtDesktop(const QString& dataDir, const std::vector<DefaultFile>& defaults)
+QtDesktop::QtDesktop(const std::filesystem::path& dataDir, const std::vector<DefaultFile>& defaults)
     : files_(dataDir, defaults) {
   applyLook();
   installVoices();

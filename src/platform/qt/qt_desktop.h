@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "platform/desktop.h"
-#include "platform/qt/data_files.h"
+#include "platform/files/data_files.h"
 #include "platform/qt/form_window.h"
 #include "platform/qt/held_keys.h"
 #include "platform/qt/pointer.h"
@@ -18,7 +18,7 @@ namespace mevracard {
 class QtDesktop : public Desktop {
  public:
   /// `dataDir` holds the data files; if it does not exist it is made, with the default files in it.
-  QtDesktop(const QString& dataDir, const std::vector<DefaultFile>& defaults);
+  QtDesktop(const std::filesystem::path& dataDir, const std::vector<DefaultFile>& defaults);
   ~QtDesktop() override;
 
   /// Runs the event loop until the program ends. Gives the program's exit status.

@@ -1,6 +1,7 @@
 #include "platform/qt/run.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QStandardPaths>
 #include <clocale>
 #include <cstdio>
@@ -21,9 +22,10 @@ void reportMissingDisplay(QtMsgType type, const QMessageLogContext& /*place*/,
   std::_Exit(1);
 }
 
-QString directoryOf(const DesktopSetup& setup) {
-  if (!setup.dataDirectory.empty()) return QString::fromStdString(setup.dataDirectory);
-  return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+std::filesystem::path directoryOf(const DesktopSetup& setup) {
+  if (!setup.dataDirectory.empty()) return setup.dataDirectory;
+  const QString own = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+  return QFile::encodeName(own).toStdString();
 }
 
 }  // namespace

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "platform/desktop.h"
-#include "platform/qt/default_file.h"
+#include "platform/files/default_file.h"
 
 namespace mevracard {
 

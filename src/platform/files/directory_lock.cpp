@@ -1,6 +1,5 @@
-#include "platform/qt/directory_lock.h"
+#include "platform/files/directory_lock.h"
 
-#include <QFile>
 #include <cerrno>
 #include <chrono>
 #include <system_error>
@@ -26,9 +25,8 @@ std::string reason(int error) { return std::generic_category().message(error); }
 
 }  // namespace
 
-DirectoryLock::DirectoryLock(const QString& directory)
-    : handle_(
-          ::open(QFile::encodeName(directory).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
+DirectoryLock::DirectoryLock(const std::filesystem::path& directory)
+    : handle_(::open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
   if (handle_ < 0) throw PlatformError(reason(errno));
   const auto end = steady_clock::now() + patience;
   while (::flock(handle_, LOCK_EX | LOCK_NB) != 0) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <filesystem>
 
 namespace mevracard {
 
@@ -10,7 +10,7 @@ class DirectoryLock final {
  public:
   /// Throws PlatformError with the reason if the directory cannot be opened, or if another program
   /// keeps it for longer than anyone needs.
-  explicit DirectoryLock(const QString& directory);
+  explicit DirectoryLock(const std::filesystem::path& directory);
   ~DirectoryLock();
   DirectoryLock(const DirectoryLock&) = delete;
   DirectoryLock& operator=(const DirectoryLock&) = delete;

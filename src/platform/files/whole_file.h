@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <string_view>
 
@@ -10,15 +11,18 @@ namespace mevracard {
 /// Throws the reason of the system call just made unless it succeeded.
 void demand(bool success);
 
+/// Everything in a file. Something that is no plain file would be waited for, and is refused.
+[[nodiscard]] std::string readFile(const std::filesystem::path& path);
+
 /// Makes a file that must not exist yet. On failure part of it may be there.
-void makeFile(const std::string& path, std::string_view text);
+void makeFile(const std::filesystem::path& path, std::string_view text);
 
 /// What `replaceFile` makes beside a file before it takes its place; a program that was killed may
 /// leave it behind.
-[[nodiscard]] std::string beside(const std::string& path);
+[[nodiscard]] std::filesystem::path beside(const std::filesystem::path& path);
 
-/// Replaces a file, or makes it, with the old one's permissions. On failure the old one is
+/// Replaces a plain file, or makes it, with the old one's permissions. On failure the old one is
 /// untouched and nothing is left beside it. Two at once must not replace the same file.
-void replaceFile(const std::string& path, std::string_view text);
+void replaceFile(const std::filesystem::path& path, std::string_view text);
 
 }  // namespace mevracard

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QString>
+#include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "platform/qt/default_file.h"
+#include "platform/files/default_file.h"
 
 namespace mevracard {
 
@@ -16,7 +16,7 @@ class DataFiles final {
   /// A directory that does not exist is made, with the default files in it; one that does exist
   /// is taken as it is, but for what a killed program left of a default file half written. Should
   /// this fail, the first read or write says so.
-  DataFiles(const QString& directory, std::vector<DefaultFile> defaults);
+  DataFiles(const std::filesystem::path& directory, std::vector<DefaultFile> defaults);
 
   /// Throws PlatformError with the file's name and the reason, as all of them do.
   [[nodiscard]] std::string read(std::string_view name) const;
@@ -29,11 +29,9 @@ class DataFiles final {
                               std::string_view text) const;
 
  private:
-  [[nodiscard]] QString pathOf(std::string_view name) const;
-  void replace(std::string_view name, std::string_view text) const;
   void makeDirectory() const;
 
-  QString directory_;
+  std::filesystem::path directory_;
   std::vector<DefaultFile> defaults_;
 };
 
