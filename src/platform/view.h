@@ -1,18 +1,13 @@
 #pragma once
 
 #include "platform/control.h"
+#include "platform/dots.h"
 
 namespace mevracard {
 
 constexpr double twipsPerInch = 1440;
 constexpr double pixelsPerInch = 96;  ///< of the design; a screen may have several dots a pixel
 constexpr double twipsPerDesignPixel = twipsPerInch / pixelsPerInch;
-
-/// A rectangle of whole dots.
-struct Dots {
-  int left = 0, top = 0, width = 0, height = 0;
-  bool operator==(const Dots&) const = default;
-};
 
 /// How a window's twips lie on the dots of its screen: one zoom and one origin. The only place
 /// where a place is rounded to a dot, so that every edge is crisp. A place absurdly far away is

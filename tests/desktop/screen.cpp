@@ -29,8 +29,9 @@ std::optional<QRect> Screen::painted(const Control& control) const {
     const double ratio = window->devicePixelRatioF();
     for (const Item& item : window->canvas().picture()) {
       if (item.control != &control) continue;
-      const QPoint corner = (QPointF(item.place.topLeft()) / ratio).toPoint();
-      return QRect(window->canvas().mapToGlobal(corner), item.place.size() / ratio);
+      const QPoint corner = (QPointF(item.place.left, item.place.top) / ratio).toPoint();
+      return QRect(window->canvas().mapToGlobal(corner),
+                   QSize(item.place.width, item.place.height) / ratio);
     }
   }
   return std::nullopt;

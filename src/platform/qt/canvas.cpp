@@ -2,7 +2,6 @@
 
 #include <QMouseEvent>
 #include <QPaintEvent>
-#include <algorithm>
 #include <utility>
 
 #include "platform/qt/look.h"
@@ -22,9 +21,10 @@ Canvas::Canvas(Form& form, ControlEvents& events, QWidget& parent)
 Views Canvas::viewsNow() const {
   const double ratio = devicePixelRatioF();
   const QSize size = (QSizeF(this->size()) * ratio).toSize();
+  const Dots window{0, 0, size.width(), size.height()};
   const View plain = View::plain(ratio);
-  if (form_.whole == nullptr) return {plain, plain, size};
-  return {View::fitted(*form_.whole, size.width(), size.height(), ratio), plain, size};
+  if (form_.whole == nullptr) return {plain, plain, window};
+  return {View::fitted(*form_.whole, size.width(), size.height(), ratio), plain, window};
 }
 
 void Canvas::flush() {
@@ -39,19 +39,21 @@ void Canvas::flush() {
 
 void Canvas::repaintChanges() {
   const Views viewsBefore = std::exchange(views_, viewsNow());
-  const Picture before = std::exchange(picture_, pictureOf(form_, views_, glides_));
+  const Picture before = std::exchange(
+      picture_,
+      pictureOf(form_, views_, [this](const Frame& frame) { return glides_.placeOf(frame); }));
   const Color colorBefore = std::exchange(backColor_, form_.backColor);
   if (views_ != viewsBefore || backColor_ != colorBefore) {
     update();
   } else {
-    for (const QRect& dots : difference(before, picture_)) update(toPixels(dots));
+    for (const Dots& dots : difference(before, picture_)) update(toPixels(dots));
   }
   widgets_.flush(views_);
 }
 
-QRect Canvas::toPixels(const QRect& dots) const {
+QRect Canvas::toPixels(const Dots& dots) const {
   const double ratio = devicePixelRatioF();
-  return QRectF(QPointF(dots.topLeft()) / ratio, QSizeF(dots.size()) / ratio)
+  return QRectF(QPointF(dots.left, dots.top) / ratio, QSizeF(dots.width, dots.height) / ratio)
       .toAlignedRect()
       .adjusted(-1, -1, 1, 1);
 }
@@ -63,19 +65,14 @@ QPoint Canvas::toPixels(Position twips) const {
 
 QRect Canvas::placeOf(const Box& control) const {
   if (const QWidget* widget = widgets_.of(control)) return widget->geometry();
-  const QRectF dots(views_.placeOf(control));
+  const QRectF dots(toRect(views_.placeOf(control)));
   const double ratio = devicePixelRatioF();
   return QRectF(dots.topLeft() / ratio, dots.size() / ratio).toRect();
 }
 
 Control* Canvas::controlAt(QPointF point) const {
   const QPoint dot = (point * devicePixelRatioF()).toPoint();
-  const auto hit = std::find_if(picture_.rbegin(), picture_.rend(), [dot](const Item& item) {
-    const bool takesMouse =
-        item.control->kind == ControlKind::Label || item.control->kind == ControlKind::Frame;
-    return takesMouse && item.place.contains(dot);
-  });
-  return hit == picture_.rend() ? nullptr : hit->control;
+  return mevracard::controlAt(picture_, dot.x(), dot.y());
 }
 
 QWidget& Canvas::keyboardOf(const Control* control) {
@@ -87,7 +84,7 @@ void Canvas::paintEvent(QPaintEvent* event) {
   // The window may have moved to a screen with other dots.
   if (viewsNow() != views_) repaintChanges();
   DotPainter painter(*this);
-  painter.fillRect(QRect(QPoint(), views_.size).adjusted(-1, -1, 1, 1), toColor(backColor_));
+  painter.fillRect(toRect(views_.window.grown(1)), toColor(backColor_));
   for (const Item& item : picture_) {
     if (event->region().intersects(toPixels(item.bounds()))) paint(painter, item);
   }

@@ -2,9 +2,9 @@
 
 #include <QWidget>
 
+#include "platform/picture.h"
 #include "platform/qt/control_events.h"
 #include "platform/qt/glides.h"
-#include "platform/qt/picture.h"
 #include "platform/qt/widgets.h"
 
 namespace mevracard {
@@ -50,7 +50,7 @@ class Canvas final : public QWidget {
  private:
   [[nodiscard]] Views viewsNow() const;
   /// Dots to the logical pixels that they touch.
-  [[nodiscard]] QRect toPixels(const QRect& dots) const;
+  [[nodiscard]] QRect toPixels(const Dots& dots) const;
   void repaintChanges();
 
   Form& form_;

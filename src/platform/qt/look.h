@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "platform/control.h"
+#include "platform/dots.h"
 
 class QWidget;
 
@@ -14,6 +15,7 @@ class QWidget;
 namespace mevracard {
 
 [[nodiscard]] QColor toColor(Color color);
+[[nodiscard]] QRect toRect(const Dots& dots);
 /// The font in whole dots, where a pixel at 96 dots per inch is this many of them.
 [[nodiscard]] QFont toFont(const Font& font, double dotsPerPixel);
 /// Text with line ends as the toolkit wants them.

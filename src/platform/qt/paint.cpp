@@ -40,34 +40,24 @@ void write(QPainter& painter, const QRect& room, QString text, QFont font, Align
   painter.drawText(room, flags | Qt::TextDontClip, text);
 }
 
-/// The band of `width` dots along a line that is upright or level, ends included.
-QRectF band(QPointF from, QPointF to, int width) {
-  const QRectF line = QRectF(from, to).normalized();
-  return {std::round(line.left() - width / 2.0), std::round(line.top() - width / 2.0),
-          std::round(line.width()) + width, std::round(line.height()) + width};
-}
-
 void paintLook(QPainter& painter, const Item& item, const Line& line) {
-  const View& view = item.view;
-  const QPointF from(view.x(line.x1), view.y(line.y1));
-  const QPointF to(view.x(line.x2), view.y(line.y2));
-  const int width = view.border(line.borderWidth);
-  if (from.x() == to.x() || from.y() == to.y()) {
-    painter.fillRect(band(from, to, width), toColor(line.borderColor));
+  if (isStraight(line)) {
+    painter.fillRect(toRect(item.place), toColor(line.borderColor));
     return;
   }
+  const View& view = item.view;
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(toColor(line.borderColor), width, Qt::SolidLine, Qt::FlatCap));
-  painter.drawLine(from, to);
+  painter.setPen(
+      QPen(toColor(line.borderColor), view.border(line.borderWidth), Qt::SolidLine, Qt::FlatCap));
+  painter.drawLine(QPointF(view.x(line.x1), view.y(line.y1)),
+                   QPointF(view.x(line.x2), view.y(line.y2)));
 }
 
 void paintLook(QPainter& painter, const Item& item, const Shape& shape) {
-  const View& view = item.view;
-  const int width = shape.outlined ? view.border(shape.borderWidth) : 0;
-  const QRectF outer =
-      band(item.place.topLeft(), QPointF(item.place.bottomRight()) + QPointF(1, 1), width);
-  const double half = width / 2.0;
-  const QRectF middle = outer.adjusted(half, half, -half, -half);
+  const int width = shape.outlined ? item.view.border(shape.borderWidth) : 0;
+  // Half of the outline lies outside. Of an odd one the smaller half, so that it lies on dots.
+  const double shift = width % 2 / 2.0;
+  const QRectF middle = QRectF(toRect(item.place)).translated(shift, shift);
   QPen pen(Qt::NoPen);
   if (shape.outlined) {
     pen = QPen(toColor(shape.borderColor), width, shape.dashed ? Qt::DashDotDotLine : Qt::SolidLine,
@@ -110,8 +100,8 @@ void paintCard(QPainter& painter, const QRectF& place, const FrameLook& frame) {
 
 /// Cards that look the same are painted once.
 void paintLook(QPainter& painter, const Item& item, const FrameLook& frame) {
-  const QRect bounds = item.bounds();
-  const QRect place = item.place.translated(-bounds.topLeft());
+  const QRect bounds = toRect(item.bounds());
+  const QRect place = toRect(item.place).translated(-bounds.topLeft());
   const QColor colors[] = {toColor(frame.backColor), toColor(frame.mark)};
   const QString key = QString("card %1 %2 %3 %4")
                           .arg(place.width())
@@ -132,10 +122,10 @@ void paintLook(QPainter& painter, const Item& item, const FrameLook& frame) {
 
 /// A card's number, as large as its box allows.
 void paintDigit(QPainter& painter, const Item& item, const QString& text, QFont font) {
-  const double height = item.place.height() * digitShare;
+  const double height = item.place.height * digitShare;
   font.setPixelSize(std::max(1, static_cast<int>(height / digitHeight)));
   const QFontMetrics metrics(font);
-  const QPointF middle = QRectF(item.place).center();
+  const QPointF middle = QRectF(toRect(item.place)).center();
   painter.setFont(font);
   painter.drawText(QPointF(std::round(middle.x() - metrics.horizontalAdvance(text) / 2.0),
                            std::round(middle.y() + metrics.capHeight() / 2.0)),
@@ -143,11 +133,12 @@ void paintDigit(QPainter& painter, const Item& item, const QString& text, QFont 
 }
 
 void paintLook(QPainter& painter, const Item& item, const Label& label) {
-  if (label.opaque) painter.fillRect(item.place, toColor(label.backColor));
+  if (label.opaque) painter.fillRect(toRect(item.place), toColor(label.backColor));
   if (label.bordered) {
     const int edge = item.view.border(1);
-    const QRegion inside(item.place.adjusted(edge, edge, -edge, -edge));
-    for (const QRect& side : QRegion(item.place) - inside) painter.fillRect(side, Qt::black);
+    const QRegion inside(toRect(item.place.grown(-edge)));
+    for (const QRect& side : QRegion(toRect(item.place)) - inside)
+      painter.fillRect(side, Qt::black);
   }
   const QString text = toText(label.caption);
   painter.setPen(toColor(label.foreColor));
@@ -155,7 +146,7 @@ void paintLook(QPainter& painter, const Item& item, const Label& label) {
   if (label.parent != nullptr && text.size() == 1) {
     paintDigit(painter, item, text, font);
   } else {
-    write(painter, item.room, text, font, label.alignment);
+    write(painter, toRect(item.room), text, font, label.alignment);
   }
 }
 
@@ -170,11 +161,11 @@ DotPainter::DotPainter(QWidget& widget) : QPainter(&widget) {
 void paint(QPainter& painter, const Item& item) {
   painter.save();
   if (item.control->parent != nullptr && std::holds_alternative<Line>(item.look)) {
-    painter.setClipRect(item.room, Qt::IntersectClip);
+    painter.setClipRect(toRect(item.room), Qt::IntersectClip);
   } else if (item.control->parent != nullptr && std::holds_alternative<Shape>(item.look)) {
     QPainterPath inside;
     const double corner = FrameLook(*item.control->parent, item.room).corner;
-    inside.addRoundedRect(item.room, corner, corner);
+    inside.addRoundedRect(toRect(item.room), corner, corner);
     painter.setClipPath(inside, Qt::IntersectClip);
   }
   std::visit([&](const auto& look) { paintLook(painter, item, look); }, item.look);

@@ -3,7 +3,7 @@
 #include <QPainter>
 #include <QWidget>
 
-#include "platform/qt/picture.h"
+#include "platform/picture.h"
 
 class QPushButton;
 

@@ -87,7 +87,7 @@ void Widgets::flush(QWidget& widget, const Control& control) {
 
 QRect Widgets::placeOf(const Box& box) const {
   const double ratio = canvas_.devicePixelRatioF();
-  const QRect dots = views_.placeOf(box);
+  const QRect dots = toRect(views_.placeOf(box));
   const QSize size = (QSizeF(dots.size()) / ratio).toSize();
   QRect place((QPointF(dots.topLeft()) / ratio).toPoint(), size);
   // A text has the room down to the window's lower edge. A button that would stand on it stands at
@@ -95,7 +95,7 @@ QRect Widgets::placeOf(const Box& box) const {
   if (isText(box)) place.setBottom(canvas_.height() - textMargin);
   for (const Control* other : form_.controls) {
     if (!isShown(*other) || isText(*other) == isText(box)) continue;
-    const QRect theirs = views_.placeOf(static_cast<const Box&>(*other));
+    const QRect theirs = toRect(views_.placeOf(static_cast<const Box&>(*other)));
     if (!theirs.intersects(dots)) continue;
     if (isText(box)) {
       place.setBottom(placeOf(static_cast<const Box&>(*other)).top() - textMargin);

@@ -5,8 +5,8 @@
 #include <QTextEdit>
 #include <unordered_map>
 
+#include "platform/picture.h"
 #include "platform/qt/control_events.h"
-#include "platform/qt/picture.h"
 
 namespace mevracard {
 

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QRect>
-#include <QRegion>
+#include <functional>
 #include <variant>
 #include <vector>
 
@@ -9,8 +8,6 @@
 #include "platform/view.h"
 
 namespace mevracard {
-
-class Glides;
 
 /// What a frame looks like, apart from what stands in it.
 struct FrameLook {
@@ -20,7 +17,7 @@ struct FrameLook {
   double corner = 0;
   int edge = 0, shadow = 0;
 
-  FrameLook(const Frame& frame, const QRect& place);
+  FrameLook(const Frame& frame, const Dots& place);
   bool operator==(const FrameLook&) const = default;
 };
 
@@ -28,15 +25,14 @@ struct FrameLook {
 struct Item {
   Control* control = nullptr;
   std::variant<Label, FrameLook, Line, Shape>
-      look;     ///< the control as it was when it was presented
-  View view;    ///< between its twips and the window's dots
-  QRect place;  ///< of a line: the box that its ends span
-  QRect room;   ///< a label's: where its text may stand; a frame's part: the inside of the frame
-  Color mark;   ///< a frame's: the colour that stands out among its labels, else its own
+      look;    ///< the control as it was when it was presented
+  View view;   ///< between its twips and the window's dots
+  Dots place;  ///< of a line: what it covers, or the box around a slanted one
+  Dots room;   ///< a label's: where its text may stand; a frame's part: the inside of the frame
 
   bool operator==(const Item&) const = default;
   /// Everything that is painted of it, borders and shadows too.
-  [[nodiscard]] QRect bounds() const;
+  [[nodiscard]] Dots bounds() const;
 };
 
 /// What a window shows, back to front. What lies under a cover is not in it.
@@ -46,23 +42,30 @@ using Picture = std::vector<Item>;
 struct Views {
   View table;   ///< fitted into the window
   View pinned;  ///< of the controls that keep their place and size
-  QSize size;   ///< of the window, in dots
+  Dots window;
 
   bool operator==(const Views&) const = default;
   [[nodiscard]] const View& of(const Control& control) const {
     return control.pinned ? pinned : table;
   }
   /// A control's box, also inside a frame.
-  [[nodiscard]] QRect placeOf(const Box& box) const;
+  [[nodiscard]] Dots placeOf(const Box& box) const;
 };
 
-/// Whether the control is a widget of its own: the player presses, types or scrolls there.
+/// Whether the player presses, types or scrolls there, so that it is more than painted.
 [[nodiscard]] bool isWidget(const Control& control);
 
-/// Gliding frames are where they have got to.
-[[nodiscard]] Picture pictureOf(const Form& form, const Views& views, const Glides& glides);
+/// Whether a line is upright or level.
+[[nodiscard]] bool isStraight(const Line& line);
+
+/// `placeOf` tells where a frame is to be seen, which may be on its way to where it belongs.
+[[nodiscard]] Picture pictureOf(const Form& form, const Views& views,
+                                const std::function<Position(const Frame&)>& placeOf);
+
+/// The label or frame that lies in front at a dot; null for none.
+[[nodiscard]] Control* controlAt(const Picture& picture, int x, int y);
 
 /// The dots that have to be painted anew to get from one picture to the other.
-[[nodiscard]] QRegion difference(const Picture& before, const Picture& after);
+[[nodiscard]] std::vector<Dots> difference(const Picture& before, const Picture& after);
 
 }  // namespace mevracard

@@ -1,0 +1,209 @@
+#include "platform/picture.h"
+
+#include <algorithm>
+#include <cmath>
+#include <unordered_map>
+
+namespace mevracard {
+
+namespace {
+
+constexpr int labelPadding = 2;  // pixels beside a text that is not centred
+
+Dots placeOf(const Line& line, const View& view) {
+  const int width = view.border(line.borderWidth);
+  const auto [left, right] = std::minmax({view.x(line.x1), view.x(line.x2)});
+  const auto [top, bottom] = std::minmax({view.y(line.y1), view.y(line.y2)});
+  // The corners of a slanted line stand out.
+  const double out = isStraight(line) ? width / 2.0 : width + 1;
+  const auto start = [&](double from) { return static_cast<int>(std::lround(from - out)); };
+  const auto length = [&](double from, double to) {
+    return static_cast<int>(std::lround(to - from) + std::lround(2 * out));
+  };
+  return {start(left), start(top), length(left, right), length(top, bottom)};
+}
+
+/// Makes a picture, one window or frame at a time.
+class Maker {
+ public:
+  Maker(const Views& views, const std::function<Position(const Frame&)>& seenAt, Picture& picture)
+      : views_(views), seenAt_(seenAt), picture_(picture) {}
+
+  /// `controls` are the parts of `frame`, or of the window if that is null.
+  void add(const std::vector<Control*>& controls, const Item* frame) {
+    for (auto c = controls.begin(); c != controls.end(); ++c) {
+      if (!(*c)->visible || isWidget(**c)) continue;
+      Item item;
+      item.control = *c;
+      item.view = viewOf(**c, frame);
+      if (frame != nullptr) item.room = frame->room;
+      switch ((*c)->kind) {
+        case ControlKind::Label:
+          addLabel(item, c + 1, controls.end(), frame);
+          break;
+        case ControlKind::Frame:
+          addFrame(item, static_cast<const Frame&>(**c));
+          break;
+        case ControlKind::Line:
+          item.look = static_cast<const Line&>(**c);
+          item.place = placeOf(static_cast<const Line&>(**c), item.view);
+          picture_.push_back(item);
+          break;
+        case ControlKind::Button:  // that only takes keys, or a widget
+        case ControlKind::ScrollBar:
+          break;
+        case ControlKind::Shape:
+          item.look = static_cast<const Shape&>(**c);
+          item.place = item.view.box(static_cast<const Shape&>(**c));
+          picture_.push_back(item);
+      }
+    }
+  }
+
+ private:
+  using Controls = std::vector<Control*>::const_iterator;
+
+  [[nodiscard]] View viewOf(const Control& control, const Item* frame) const {
+    if (frame == nullptr) return views_.of(control);
+    return {frame->view.dotsPerTwip, double(frame->place.left), double(frame->place.top)};
+  }
+
+  [[nodiscard]] bool isCovered(const Item& label, Controls next, Controls end) const {
+    return std::any_of(next, end, [&](const Control* c) {
+      if (c->kind != ControlKind::Shape || !c->visible) return false;
+      const auto& shape = static_cast<const Shape&>(*c);
+      return shape.filled && shape.form == ShapeForm::Rectangle &&
+             label.view.box(shape).holds(label.place);
+    });
+  }
+
+  void addFrame(Item& item, const Frame& frame) {
+    const Position at = seenAt_(frame);
+    item.place = item.view.box(frame, at.left, at.top);
+    const FrameLook look(frame, item.place);
+    item.room = item.place.grown(-look.edge);
+    item.look = look;
+    picture_.push_back(item);
+    add(frame.children, &item);
+  }
+
+  void addLabel(Item& item, Controls next, Controls end, const Item* frame) {
+    const auto& label = static_cast<const Label&>(*item.control);
+    item.look = label;
+    item.place = item.view.box(label);
+    if (isCovered(item, next, end)) return;
+    const int border = label.bordered ? item.view.border(1) : 0;
+    const int side = label.alignment == Alignment::Centre ? 0 : item.view.border(labelPadding);
+    item.room = item.place.grown(-side - border, -border);
+    if (!label.opaque) {  // no ground to leave
+      const int more = item.place.width;
+      if (label.alignment != Alignment::Left) item.room.left -= more;
+      item.room.width += label.alignment == Alignment::Centre ? 2 * more : more;
+    }
+    if (frame == nullptr) item.room = item.room.within(views_.window);
+    for (; next != end; ++next) item.room = item.room.beside(obstacle(**next, frame));
+    picture_.push_back(item);
+  }
+
+  /// What in front of a text would hide it.
+  [[nodiscard]] Dots obstacle(const Control& control, const Item* frame) const {
+    if (!control.visible) return {};
+    const View view = viewOf(control, frame);
+    if (control.kind == ControlKind::Line) {
+      const auto& line = static_cast<const Line&>(control);
+      return isStraight(line) ? placeOf(line, view) : Dots();
+    }
+    const bool solid = control.kind == ControlKind::Label
+                           ? static_cast<const Label&>(control).opaque
+                           : isWidget(control);
+    return solid ? view.box(static_cast<const Box&>(control)) : Dots();
+  }
+
+  const Views& views_;
+  const std::function<Position(const Frame&)>& seenAt_;
+  Picture& picture_;
+};
+
+}  // namespace
+
+FrameLook::FrameLook(const Frame& frame, const Dots& place)
+    : backColor(frame.backColor), mark(frame.backColor), corner(place.width / 8.0) {
+  for (const Control* child : frame.children) {
+    if (child->kind != ControlKind::Label) continue;
+    const auto& label = static_cast<const Label&>(*child);
+    if (label.opaque && label.backColor != backColor) mark = label.backColor;
+  }
+  edge = std::max(1, place.width / (mark == backColor ? 32 : 11));
+  shadow = std::max(2, place.width / 8);
+}
+
+Dots Item::bounds() const {
+  if (const auto* frame = std::get_if<FrameLook>(&look)) return place.grown(frame->shadow);
+  if (const auto* shape = std::get_if<Shape>(&look)) {
+    return place.grown(view.border(shape->borderWidth) + 1);
+  }
+  return place;
+}
+
+Dots Views::placeOf(const Box& box) const {
+  if (box.parent == nullptr) return of(box).box(box);
+  const Dots frame = placeOf(*box.parent);
+  return View{of(*box.parent).dotsPerTwip, double(frame.left), double(frame.top)}.box(box);
+}
+
+bool isWidget(const Control& control) {
+  if (control.kind == ControlKind::Button) return !static_cast<const Button&>(control).keysOnly;
+  if (control.kind != ControlKind::Label) return control.kind == ControlKind::ScrollBar;
+  const auto& label = static_cast<const Label&>(control);
+  return label.link || label.scrolls;
+}
+
+bool isStraight(const Line& line) { return line.x1 == line.x2 || line.y1 == line.y2; }
+
+Picture pictureOf(const Form& form, const Views& views,
+                  const std::function<Position(const Frame&)>& placeOf) {
+  Picture picture;
+  picture.reserve(form.controls.size() * 5);
+  Maker(views, placeOf, picture).add(form.controls, nullptr);
+  return picture;
+}
+
+Control* controlAt(const Picture& picture, int x, int y) {
+  const auto hit = std::find_if(picture.rbegin(), picture.rend(), [&](const Item& item) {
+    const bool takesMouse =
+        item.control->kind == ControlKind::Label || item.control->kind == ControlKind::Frame;
+    return takesMouse && item.place.holds(x, y);
+  });
+  return hit == picture.rend() ? nullptr : hit->control;
+}
+
+std::vector<Dots> difference(const Picture& before, const Picture& after) {
+  std::vector<Dots> changed;
+  std::unordered_map<const Control*, std::size_t> ranks;
+  for (std::size_t i = 0; i < before.size(); ++i) ranks[before[i].control] = i;
+  std::vector<std::pair<std::size_t, Dots>> stayed;  // the rank before, back to front
+  for (const Item& item : after) {
+    const auto found = ranks.find(item.control);
+    if (found == ranks.end()) {
+      changed.push_back(item.bounds());
+      continue;
+    }
+    const Item& old = before[found->second];
+    if (old != item) {
+      changed.push_back(old.bounds());
+      changed.push_back(item.bounds());
+    } else if (item.control->parent == nullptr) {
+      for (const auto& [rank, bounds] : stayed) {
+        if (rank > found->second && bounds.meets(item.bounds())) {
+          changed.push_back(bounds.within(item.bounds()));
+        }
+      }
+      stayed.emplace_back(found->second, item.bounds());
+    }
+    ranks.erase(found);
+  }
+  for (const auto& [control, rank] : ranks) changed.push_back(before[rank].bounds());
+  return changed;
+}
+
+}  // namespace mevracard
