@@ -1,6 +1,7 @@
 #!/usr/bin/python3
 """play_by_ear.py PROGRAM: plays a whole game with the computer's cards face down, by keys and by
-what assistive technology hears alone. It runs on a bus of its own. Whatever can be heard or asked
+what assistive technology hears alone; the first card that fits is laid by its press action. It runs
+on a bus of its own. Whatever can be heard or asked
 for is held against the cards that are the player's to see."""
 
 import os
@@ -34,6 +35,7 @@ def parts(root):
 class Player:
     def __init__(self):
         self.game, self.news, self.heard, self.hand = None, [], [], None
+        self.pressed = False
         self.listener = Atspi.EventListener.new(self.hear)
         for kind in "object:state-changed:focused", "object:announcement":
             self.listener.register(kind)
@@ -71,9 +73,16 @@ class Player:
             if not words or self.heard[-1:] == [words]:
                 continue
             self.heard.append(words)
-            self.look_for_covered_cards(words)
-            if key := self.answer_to(words, source.get_role()):
+            items = self.look_for_covered_cards(words)
+            if "Your Turn" in words and not self.pressed and self.press_one(items["Your cards"]):
+                self.pressed = True
+            elif key := self.answer_to(words, source.get_role()):
                 subprocess.run(["xdotool", "key", key], check=True)
+
+    @staticmethod
+    def press_one(cards_in_hand):
+        fitting = (item for item in cards_in_hand if ", fits " in item.get_name())
+        return any(Atspi.Action.do_action(item, 0) for item in fitting)
 
     @staticmethod
     def answer_to(words, role):
@@ -87,21 +96,24 @@ class Player:
         return "p" if said_no or "Your Turn" in words else None
 
     def look_for_covered_cards(self, words):
+        """Gives the items of each list."""
         desktop = Atspi.get_desktop(0)
         programs = map(desktop.get_child_at_index, range(desktop.get_child_count()))
         game = next(p for p in programs if p and p.get_process_id() == self.game.pid)
         all_parts = list(parts(game))
         lists = {p.get_name(): p for p in all_parts if p.get_role() == Atspi.Role.LIST}
-        items = {name: [item.get_name() for item in parts(p)] for name, p in lists.items()}
-        if self.hand is None and items["Your cards"]:
-            self.hand = cards(items["Your cards"])
+        items = {name: list(parts(p)) for name, p in lists.items()}
+        names = {name: [item.get_name() for item in found] for name, found in items.items()}
+        if self.hand is None and names["Your cards"]:
+            self.hand = cards(names["Your cards"])
         if LAST_WORDS.search(words):  # now the computer's cards lie open
-            return
-        if set(items["Computer's cards"]) - {"face down"}:
-            self.fail(f"the computer's hand is told: {items}")
+            return items
+        if set(names["Computer's cards"]) - {"face down"}:
+            self.fail(f"the computer's hand is told: {names}")
         told = [words, *(p.get_name() + p.get_description() for p in all_parts)]
-        if secret := cards(told) - (self.hand or set()) - cards(items["Table"]) - {"0-0"}:
+        if secret := cards(told) - (self.hand or set()) - cards(names["Table"]) - {"0-0"}:
             self.fail(f"told, and neither the player's nor on the table: {secret}")
+        return items
 
     def fail(self, why):
         sys.exit(f"play_by_ear: {why}; heard before:\n" + "\n".join(self.heard[-20:]))
