@@ -1,0 +1,111 @@
+// What a window shows, in dots, and what of it has to be painted anew.
+#include "platform/picture.h"
+
+#include <algorithm>
+#include <random>
+
+#include <gtest/gtest.h>
+
+namespace mevracard {
+namespace {
+
+constexpr int side = 24;  // dots of a window, of 15 twips each
+
+Picture show(const Form& form) {
+  const View plain = View::plain(1);
+  return pictureOf(form, {plain, plain, {0, 0, side, side}}, [](const Frame& frame) {
+    return Position{frame.left, frame.top};
+  });
+}
+
+void put(Box& box, float left, float top, float width, float height) {
+  box.left = 15 * left;
+  box.top = 15 * top;
+  box.width = 15 * width;
+  box.height = 15 * height;
+}
+
+// A covered number must not be painted at all: where its box is rounded otherwise than the cover's
+// it would be read at the edge. A text keeps clear of what lies in front of it.
+TEST(Picture, HidesWhatIsCoveredAndKeepsTextsClear) {
+  Label number, text;
+  Shape cover;
+  Line line;
+  put(number, 2, 2, 5, 5);
+  put(cover, 1, 1, 7, 7);
+  cover.filled = true;
+  put(text, -5, 10, 25, 8);
+  line.x1 = 0;
+  line.x2 = 15 * side;
+  line.y1 = line.y2 = 15 * 16;
+  Form form;
+  form.controls = {&number, &cover, &text, &line};
+  const Picture picture = show(form);
+  ASSERT_EQ(picture.size(), 3U);
+  EXPECT_EQ(picture[0].control, &cover);
+  EXPECT_EQ(picture[1].room, (Dots{0, 10, 18, 6}));
+  EXPECT_EQ(controlAt(picture, 3, 3), nullptr);
+  EXPECT_EQ(controlAt(picture, 19, 17), &text);
+  EXPECT_EQ(controlAt(picture, 20, 17), nullptr);
+  cover.visible = false;
+  EXPECT_EQ(controlAt(show(form), 3, 3), &number);
+}
+
+/// What is painted on a dot, back to front.
+Picture on(const Picture& picture, int x, int y) {
+  Picture stack;
+  std::copy_if(picture.begin(), picture.end(), std::back_inserter(stack),
+               [&](const Item& item) { return item.bounds().holds(x, y); });
+  return stack;
+}
+
+// Whatever changes, no dot may keep what was painted there before.
+TEST(Picture, TellsEveryDotThatDiffers) {
+  std::mt19937 random(7);
+  const auto below = [&](unsigned end) { return static_cast<float>(random() % end); };
+  std::array<Label, 3> labels;
+  std::array<Shape, 3> shapes;
+  std::array<Line, 2> lines;
+  Frame card;
+  Form form;
+  form.controls = {&labels[0], &labels[1], &shapes[0], &shapes[1],
+                   &shapes[2], &lines[0],  &lines[1],  &card};
+  card.children = {&labels[2]};
+  labels[2].parent = &card;
+  put(labels[2], 1, 1, 3, 3);
+  Picture before;
+  for (int round = 0; round < 300; ++round) {
+    switch (random() % 5) {
+      case 0:
+        put(labels[random() % 2], below(side), below(side), below(9), below(9));
+        break;
+      case 1:
+        put(shapes[random() % 3], below(side), below(side), below(9), below(9));
+        break;
+      case 2:
+        lines[0].x2 = 15 * below(side);
+        lines[1].y1 = lines[1].y2 = 15 * below(side);
+        break;
+      case 3:
+        put(card, below(side), below(side), 5 + below(4), 6);
+        break;
+      default:
+        std::swap(form.controls[random() % form.controls.size()], form.controls[0]);
+        form.controls[1]->visible = random() % 2 == 0;
+    }
+    const Picture after = show(form);
+    const std::vector<Dots> changed = difference(before, after);
+    for (int dot = 0; dot < side * side; ++dot) {
+      const int x = dot % side;
+      const int y = dot / side;
+      if (on(before, x, y) == on(after, x, y)) continue;
+      EXPECT_TRUE(std::any_of(changed.begin(), changed.end(),
+                              [&](const Dots& dots) { return dots.holds(x, y); }))
+          << round << ": " << x << ", " << y;
+    }
+    before = after;
+  }
+}
+
+}  // namespace
+}  // namespace mevracard
