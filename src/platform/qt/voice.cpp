@@ -44,13 +44,15 @@ class SpokenCanvas final : public QAccessibleWidget {
   [[nodiscard]] const Speech& speech() const { return canvas_.speech(); }
   [[nodiscard]] bool isNewsOfNow(int index) const { return index == newsNow_; }
   /// Gives the news another place, so that the accessible focus can move there.
-  QAccessibleInterface* nextNews() { return ownChild(newsNow_ = 1 - newsNow_); }
-  QAccessibleInterface* item(Box* control) const;
+  QAccessibleInterface* nextNews() { return part(newsNow_ = 1 - newsNow_, nullptr); }
+  QAccessibleInterface* item(Box* control) const { return part(-1, control); }
+  /// How many children it has besides its widgets.
+  [[nodiscard]] int ownCount() const { return firstList + static_cast<int>(speech().lists.size()); }
 
   int childCount() const override { return ownCount() + QAccessibleWidget::childCount(); }
   QAccessibleInterface* child(int index) const override {
     const bool own = index >= 0 && index < ownCount();
-    return own ? ownChild(index) : QAccessibleWidget::child(index - ownCount());
+    return own ? part(index, nullptr) : QAccessibleWidget::child(index - ownCount());
   }
   int indexOfChild(const QAccessibleInterface* part) const override {
     return indexOf(*this, part, childCount());
@@ -62,34 +64,59 @@ class SpokenCanvas final : public QAccessibleWidget {
   }
 
  private:
-  [[nodiscard]] int ownCount() const { return firstList + static_cast<int>(speech().lists.size()); }
-  QAccessibleInterface* ownChild(int index) const;
-  QAccessibleInterface* kept(int index, const Box* control, auto make) const {
-    QAccessible::Id& id = ids_[{index, control}];
-    if (id == 0) id = QAccessible::registerAccessibleInterface(make());
-    return QAccessible::accessibleInterface(id);
-  }
+  /// Made when it is first asked for, and kept: assistive technology knows it from then on.
+  QAccessibleInterface* part(int index, Box* control) const;
 
   Canvas& canvas_;
   int newsNow_ = 0;
   mutable std::map<std::pair<int, const Box*>, QAccessible::Id> ids_;
 };
 
-/// What the parts of the canvas have in common: they are there as long as it is.
-class Part : public QAccessibleInterface {
+/// A part of the canvas that is no widget: one of two places for the news, a list, or an item. It
+/// is there as long as the canvas. A screen reader says what the accessible focus comes to, and
+/// nothing that changes where it is: so the news go from one place to the other, while the keyboard
+/// stays.
+class Part final : public QAccessibleInterface, public QAccessibleActionInterface {
  public:
-  explicit Part(const SpokenCanvas& canvas) : canvas_(canvas) {}
-  bool isValid() const override { return true; }
+  /// `index` among the canvas' children of a place or a list; an item's `control` else.
+  Part(const SpokenCanvas& canvas, int index, Box* control)
+      : canvas_(canvas), index_(index), control_(control) {}
+
+  bool isValid() const override { return isNews() || list() != nullptr || item() != nullptr; }
   QObject* object() const override { return nullptr; }
   QWindow* window() const override { return canvas_.window(); }
-  QAccessible::Role role() const override { return QAccessible::ListItem; }
-  QAccessible::State state() const override { return {}; }
-  QRect rect() const override { return canvas_.rect(); }
-  QAccessibleInterface* parent() const override {
-    return QAccessible::queryAccessibleInterface(&canvas_.canvas());
+  QAccessible::Role role() const override {
+    return list() != nullptr ? QAccessible::List : QAccessible::ListItem;
   }
-  int childCount() const override { return 0; }
-  QAccessibleInterface* child(int /*index*/) const override { return nullptr; }
+  QAccessible::State state() const override {
+    QAccessible::State state;
+    state.invisible = !isValid() || (isNews() && !canvas_.isNewsOfNow(index_));
+    state.focusable = isNews();
+    state.focused = isNews() && !state.invisible;
+    state.selectable = answersPress();
+    state.selected = item() != nullptr && item()->selected;
+    return state;
+  }
+  QRect rect() const override {
+    if (control_ == nullptr) return canvas_.rect();
+    const QRect place = canvas_.canvas().placeOf(*control_);
+    return {canvas_.canvas().mapToGlobal(place.topLeft()), place.size()};
+  }
+
+  QAccessibleInterface* parent() const override {
+    QAccessibleInterface* whole = QAccessible::queryAccessibleInterface(&canvas_.canvas());
+    for (int i = firstList; control_ != nullptr && i < canvas_.ownCount(); ++i) {
+      if (whole->child(i)->indexOfChild(this) >= 0) return whole->child(i);
+    }
+    return whole;
+  }
+  int childCount() const override {
+    return list() != nullptr ? static_cast<int>(list()->items.size()) : 0;
+  }
+  QAccessibleInterface* child(int index) const override {
+    if (index < 0 || index >= childCount()) return nullptr;
+    return canvas_.item(list()->items[static_cast<std::size_t>(index)].control);
+  }
   int indexOfChild(const QAccessibleInterface* part) const override {
     return indexOf(*this, part, childCount());
   }
@@ -99,85 +126,17 @@ class Part : public QAccessibleInterface {
     }
     return nullptr;
   }
+
   void setText(QAccessible::Text /*kind*/, const QString& /*text*/) override {}
   QString text(QAccessible::Text kind) const override {
-    return kind == QAccessible::Name && isValid() ? toText(words()) : QString();
+    if (kind != QAccessible::Name || state().invisible) return {};
+    if (isNews()) return toText(canvas_.speech().news);
+    return toText(list() != nullptr ? list()->words : item()->words);
   }
 
- protected:
-  [[nodiscard]] const SpokenCanvas& canvas() const { return canvas_; }
-  [[nodiscard]] virtual std::string_view words() const = 0;
-
- private:
-  const SpokenCanvas& canvas_;
-};
-
-/// The news. A screen reader says what the accessible focus comes to, and nothing that changes
-/// where it is: so each time it goes from one such part to the other, while the keyboard stays.
-class NewsPart final : public Part {
- public:
-  NewsPart(const SpokenCanvas& canvas, int index) : Part(canvas), index_(index) {}
-  QAccessible::State state() const override {
-    QAccessible::State state;
-    state.focusable = true;
-    state.focused = canvas().isNewsOfNow(index_);
-    state.invisible = !state.focused;
-    return state;
-  }
-
- private:
-  [[nodiscard]] std::string_view words() const override {
-    return canvas().isNewsOfNow(index_) ? std::string_view(canvas().speech().news) : "";
-  }
-
-  int index_;
-};
-
-class ListPart final : public Part {
- public:
-  ListPart(const SpokenCanvas& canvas, int index)
-      : Part(canvas), index_(static_cast<std::size_t>(index)) {}
-  bool isValid() const override { return index_ < canvas().speech().lists.size(); }
-  QAccessible::Role role() const override { return QAccessible::List; }
-  int childCount() const override { return isValid() ? static_cast<int>(list().items.size()) : 0; }
-  QAccessibleInterface* child(int index) const override {
-    if (index < 0 || index >= childCount()) return nullptr;
-    return canvas().item(list().items[static_cast<std::size_t>(index)].control);
-  }
-
- private:
-  [[nodiscard]] const SpokenList& list() const { return canvas().speech().lists[index_]; }
-  [[nodiscard]] std::string_view words() const override { return list().words; }
-
-  std::size_t index_;
-};
-
-class ItemPart final : public Part, public QAccessibleActionInterface {
- public:
-  ItemPart(const SpokenCanvas& canvas, Box& control) : Part(canvas), control_(control) {}
-  bool isValid() const override { return item() != nullptr; }
-  QAccessible::State state() const override {
-    QAccessible::State state;
-    state.invisible = !isValid();
-    state.selectable = answersPress();
-    state.selected = isValid() && item()->selected;
-    return state;
-  }
-  QRect rect() const override {
-    const QRect place = canvas().canvas().placeOf(control_);
-    return {canvas().canvas().mapToGlobal(place.topLeft()), place.size()};
-  }
-  QAccessibleInterface* parent() const override {
-    QAccessibleInterface* whole = Part::parent();
-    const int count = firstList + static_cast<int>(canvas().speech().lists.size());
-    for (int i = firstList; i < count; ++i) {
-      if (whole->child(i)->indexOfChild(this) >= 0) return whole->child(i);
-    }
-    return whole;
-  }
   void* interface_cast(QAccessible::InterfaceType type) override {
-    return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)
-                                                : nullptr;
+    const bool acts = type == QAccessible::ActionInterface && control_ != nullptr;
+    return acts ? static_cast<QAccessibleActionInterface*>(this) : nullptr;
   }
   QStringList actionNames() const override {
     return answersPress() ? QStringList(pressAction()) : QStringList();
@@ -185,28 +144,31 @@ class ItemPart final : public Part, public QAccessibleActionInterface {
   void doAction(const QString& name) override {
     if (!answersPress() || name != pressAction()) return;
     // Who asked gets an answer first: a box may open, and stay.
-    Canvas& whole = canvas().canvas();
-    QTimer::singleShot(0, &whole, [&whole, &control = control_] { whole.press(control); });
+    Canvas& whole = canvas_.canvas();
+    QTimer::singleShot(0, &whole, [&whole, &control = *control_] { whole.press(control); });
   }
   QStringList keyBindingsForAction(const QString& /*name*/) const override { return {}; }
 
  private:
-  [[nodiscard]] const SpokenItem* item() const { return itemOf(canvas().speech(), &control_); }
-  [[nodiscard]] bool answersPress() const { return isValid() && item()->answersPress; }
-  [[nodiscard]] std::string_view words() const override { return item()->words; }
+  [[nodiscard]] bool isNews() const { return control_ == nullptr && index_ < firstList; }
+  [[nodiscard]] const SpokenList* list() const {
+    if (control_ != nullptr || isNews() || index_ >= canvas_.ownCount()) return nullptr;
+    return &canvas_.speech().lists[static_cast<std::size_t>(index_ - firstList)];
+  }
+  [[nodiscard]] const SpokenItem* item() const {
+    return control_ != nullptr ? itemOf(canvas_.speech(), control_) : nullptr;
+  }
+  [[nodiscard]] bool answersPress() const { return item() != nullptr && item()->answersPress; }
 
-  Box& control_;
+  const SpokenCanvas& canvas_;
+  int index_;
+  Box* control_;
 };
 
-QAccessibleInterface* SpokenCanvas::ownChild(int index) const {
-  return kept(index, nullptr, [&]() -> Part* {
-    if (index < firstList) return new NewsPart(*this, index);
-    return new ListPart(*this, index - firstList);
-  });
-}
-
-QAccessibleInterface* SpokenCanvas::item(Box* control) const {
-  return kept(0, control, [&] { return new ItemPart(*this, *control); });
+QAccessibleInterface* SpokenCanvas::part(int index, Box* control) const {
+  QAccessible::Id& id = ids_[{index, control}];
+  if (id == 0) id = QAccessible::registerAccessibleInterface(new Part(*this, index, control));
+  return QAccessible::accessibleInterface(id);
 }
 
 QAccessibleInterface* makeVoice(const QString& /*type*/, QObject* object) {
