@@ -16,9 +16,10 @@ Dots placeOf(const Line& line, const View& view) {
   const auto [top, bottom] = std::minmax({view.y(line.y1), view.y(line.y2)});
   // The corners of a slanted line stand out.
   const double out = isStraight(line) ? width / 2.0 : width + 1;
+  // Either end is rounded by itself, so that two lines that meet in a corner end with one another.
   const auto start = [&](double from) { return static_cast<int>(std::lround(from - out)); };
   const auto length = [&](double from, double to) {
-    return static_cast<int>(std::lround(to - from) + std::lround(2 * out));
+    return start(to) - start(from) + static_cast<int>(std::lround(2 * out));
   };
   return {start(left), start(top), length(left, right), length(top, bottom)};
 }
@@ -80,7 +81,7 @@ class Maker {
   void addFrame(Item& item, const Frame& frame) {
     const Position at = seenAt_(frame);
     item.place = item.view.box(frame, at.left, at.top);
-    const FrameLook look(frame, item.place);
+    const FrameLook look(frame, item.place, item.view);
     item.room = item.place.grown(-look.edge);
     item.look = look;
     picture_.push_back(item);
@@ -126,14 +127,14 @@ class Maker {
 
 }  // namespace
 
-FrameLook::FrameLook(const Frame& frame, const Dots& place)
+FrameLook::FrameLook(const Frame& frame, const Dots& place, const View& view)
     : backColor(frame.backColor), mark(frame.backColor), corner(place.width / 8.0) {
   for (const Control* child : frame.children) {
     if (child->kind != ControlKind::Label) continue;
     const auto& label = static_cast<const Label&>(*child);
     if (label.opaque && label.backColor != backColor) mark = label.backColor;
   }
-  edge = std::max(1, place.width / (mark == backColor ? 32 : 11));
+  edge = std::max(view.border(1), place.width / (mark == backColor ? 32 : 11));
   shadow = std::max(2, place.width / 8);
 }
 

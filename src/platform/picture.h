@@ -17,7 +17,7 @@ struct FrameLook {
   double corner = 0;
   int edge = 0, shadow = 0;
 
-  FrameLook(const Frame& frame, const Dots& place);
+  FrameLook(const Frame& frame, const Dots& place, const View& view);
   bool operator==(const FrameLook&) const = default;
 };
 

@@ -12,6 +12,7 @@ namespace mevracard {
 namespace {
 
 constexpr double smallestShare = 0.6;  // of the font's size
+constexpr double linesToBreak = 1.6;   // that a room must hold for a text to begin at its top
 constexpr double digitShare = 0.8;     // of a number box's height
 constexpr double digitHeight = 0.7;    // of a font's size
 
@@ -20,15 +21,18 @@ int flagOf(Alignment alignment) {
   return alignment == Alignment::Right ? Qt::AlignRight : Qt::AlignLeft;
 }
 
-/// Writes a caption in the largest font, from `font` down to one that can still be read, in which
-/// it fits its room, with line breaks where the room is high enough for them.
-void write(QPainter& painter, const QRect& room, QString text, QFont font, Alignment alignment) {
+/// Of a font, the size in dots down to which it can be read.
+int readable(const QFont& font) { return qMax(1, qRound(font.pixelSize() * smallestShare)); }
+
+/// Writes a caption in the largest font, from `font` down to `smallest` dots, in which it fits its
+/// room, with line breaks where the room is high enough for them.
+void write(QPainter& painter, const QRect& room, QString text, QFont font, int smallest,
+           Alignment alignment) {
   while (text.endsWith(' ')) text.chop(1);  // these may stand outside
   const bool inTheMiddle =
-      alignment == Alignment::Centre || room.height() < 2 * QFontMetrics(font).height();
+      alignment == Alignment::Centre || room.height() < linesToBreak * QFontMetrics(font).height();
   const int flags =
       flagOf(alignment) | Qt::TextWordWrap | (inTheMiddle ? Qt::AlignVCenter : Qt::AlignTop);
-  const int smallest = qMax(1, qRound(font.pixelSize() * smallestShare));
   QSize all;
   for (int size = font.pixelSize(); size >= smallest; --size) {
     font.setPixelSize(size);
@@ -146,7 +150,7 @@ void paintLook(QPainter& painter, const Item& item, const Label& label) {
   if (label.parent != nullptr && text.size() == 1) {
     paintDigit(painter, item, text, font);
   } else {
-    write(painter, toRect(item.room), text, font, label.alignment);
+    write(painter, toRect(item.room), text, font, readable(font), label.alignment);
   }
 }
 
@@ -164,7 +168,7 @@ void paint(QPainter& painter, const Item& item) {
     painter.setClipRect(toRect(item.room), Qt::IntersectClip);
   } else if (item.control->parent != nullptr && std::holds_alternative<Shape>(item.look)) {
     QPainterPath inside;
-    const double corner = FrameLook(*item.control->parent, item.room).corner;
+    const double corner = FrameLook(*item.control->parent, item.room, item.view).corner;
     inside.addRoundedRect(toRect(item.room), corner, corner);
     painter.setClipPath(inside, Qt::IntersectClip);
   }
@@ -198,7 +202,9 @@ void paintButton(QPushButton& widget, const Button& button, const View& view) {
                                     : widget.palette().color(group, QPalette::ButtonText));
   const int margin = View::plain(ratio).border(2);
   const QRect room = place.toRect().adjusted(margin, 0, -margin, 0);
-  write(painter, room, widget.text(), toFont(button.font, view.length(1)), Alignment::Centre);
+  // A button that became small with the table has room for more than a caption in proportion.
+  write(painter, room, widget.text(), toFont(button.font, std::max(view.length(1), ratio)),
+        readable(toFont(button.font, view.length(1))), Alignment::Centre);
 }
 
 }  // namespace mevracard
