@@ -114,7 +114,7 @@ TEST(SmallWindow, ShowsTheWholeTableAndTheStatusInFront) {
   EXPECT_TRUE(isBefore(screen, w.status, w.sizePanel.ground));
 }
 
-// The longest tip must be read without scrolling.
+// What a choice means must be read without scrolling, beside the buttons that it speaks of.
 TEST(Tips, FitTheirWindow) {
   Screen screen;
   screen.start();

@@ -3,6 +3,8 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QTextDocument>
+#include <QTextFrame>
+#include <QTimer>
 
 #include "platform/qt/look.h"
 #include "platform/qt/paint.h"
@@ -20,6 +22,21 @@ bool isText(const Control& control) {
   return control.kind == ControlKind::Label && static_cast<const Label&>(control).scrolls;
 }
 
+/// A text that does not fit has grown at its end, and there stands what is new. The first line that
+/// is seen is whole.
+void scrollToNews(QTextEdit& widget) {
+  QScrollBar& bar = *widget.verticalScrollBar();
+  const int line = QFontMetrics(widget.font()).lineSpacing();
+  bar.setSingleStep(line);
+  if (const int cut = (bar.maximum() - textMargin) % line; bar.maximum() > 0 && cut > 0) {
+    QTextFrame& text = *widget.document()->rootFrame();
+    QTextFrameFormat format = text.frameFormat();
+    format.setBottomMargin(format.bottomMargin() + line - cut);
+    text.setFrameFormat(format);
+  }
+  bar.setValue(bar.maximum());
+}
+
 void flushText(QTextEdit& widget, const QString& text, const QRect& place) {
   if (widget.toPlainText() == text && widget.geometry() == place) return;
   widget.setGeometry(place);
@@ -34,8 +51,10 @@ void flushText(QTextEdit& widget, const QString& text, const QRect& place) {
   }
   widget.setFont(font);
   widget.setPlainText(text);
-  // What does not fit has grown at its end, and there stands what is new.
-  widget.verticalScrollBar()->setValue(widget.verticalScrollBar()->maximum());
+  widget.moveCursor(QTextCursor::End);  // which is brought into view when it is first shown
+  scrollToNews(widget);
+  // A text that is about to be shown gets its layout only then.
+  if (!widget.isVisible()) QTimer::singleShot(0, &widget, [&widget] { scrollToNews(widget); });
 }
 
 }  // namespace
