@@ -9,15 +9,19 @@ namespace mevracard {
 
 namespace {
 
-/// Without the blanks that stand for an icon, and wide enough to read the title.
+/// Wide enough to read the title, and without the blanks that stand for an icon that is not there.
 void tidy(QMessageBox& box) {
   constexpr int titleButtons = 130;  // pixels that the window manager needs beside a title
   auto* grid = qobject_cast<QGridLayout*>(box.layout());
   auto* text = box.findChild<QLabel*>("qt_msgbox_label");
   if (grid == nullptr || text == nullptr) return;
   QLayoutItem* indent = grid->itemAtPosition(0, 0);
-  if (indent != nullptr && indent->spacerItem() != nullptr) indent->spacerItem()->changeSize(0, 0);
-  text->setIndent(0);
+  if (box.icon() == QMessageBox::NoIcon) {
+    if (indent != nullptr && indent->spacerItem() != nullptr) {
+      indent->spacerItem()->changeSize(0, 0);
+    }
+    text->setIndent(0);
+  }
   text->setMinimumWidth(box.fontMetrics().horizontalAdvance(box.windowTitle()) + titleButtons);
 }
 
@@ -33,7 +37,7 @@ void showMessageBox(QWidget* parent, QPoint middle, QMessageBox::Icon icon, cons
   box.setTextFormat(Qt::PlainText);
   box.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                      Qt::WindowCloseButtonHint);
-  if (icon == QMessageBox::NoIcon) tidy(box);
+  tidy(box);
   box.adjustSize();
   if (parent != nullptr) box.move(middle - box.rect().center());
   box.exec();
