@@ -14,6 +14,10 @@ void turn(Card& card, int& openNumber, bool upperTouches) {
   openNumber = outward;
 }
 
+void note(GameState& s, LaidCard laid) {
+  if (s.laidCount < cardCount) s.laid.at(static_cast<std::size_t>(s.laidCount++)) = laid;
+}
+
 }  // namespace
 
 void openChain(GameState& s, int card) {
@@ -21,6 +25,7 @@ void openChain(GameState& s, int card) {
   s.endCard = {{card, card}};
   s.openNumber = {{s.card(card).upper, s.card(card).lower}};
   ++s.openings;
+  note(s, {card, End::RightTop});
 }
 
 Laying joinChain(GameState& s, int card, End end) {
@@ -28,6 +33,7 @@ Laying joinChain(GameState& s, int card, End end) {
   turn(s.card(card), s.openNumber[end], laying.upperTouches);
   s.card(card).held = false;
   s.endCard[end] = card;
+  note(s, {card, end});
   s.layPosition = laying.position;
   s.layColumn = laying.column;
   return laying;

@@ -61,6 +61,12 @@ struct Card {
   [[nodiscard]] int sum() const { return upper + lower; }
 };
 
+/// A card on the table, and the end at which it joined the chain.
+struct LaidCard {
+  int slot = 0;
+  End end = End::RightTop;  ///< of the opening's 0-0 it means nothing
+};
+
 /// What the status line last said.
 enum class Announcement {
   None,
@@ -105,10 +111,12 @@ struct Demonstration {
 struct GameState {
   // The cards and the chain.
   std::array<Card, cardCount> cards;
-  PerEnd<int> openNumber;              ///< the active numbers
-  PerEnd<std::optional<int>> endCard;  ///< slot of the card that lies at an end
-  PerEnd<int> laidAt;                  ///< cards laid at an end, the 0-0 not counted
-  int openings = 0;                    ///< laid in this game
+  PerEnd<int> openNumber;                ///< the active numbers
+  PerEnd<std::optional<int>> endCard;    ///< slot of the card that lies at an end
+  PerEnd<int> laidAt;                    ///< cards laid at an end, the 0-0 not counted
+  int openings = 0;                      ///< laid in this game
+  std::array<LaidCard, cardCount> laid;  ///< the first `laidCount`, in order
+  int laidCount = 0;
 
   // The counts, and how the game ended.
   PerSide<int> cardsLeft{{handSize, handSize}};
@@ -125,6 +133,7 @@ struct GameState {
   bool playerAimsLeftBottom = false;    ///< the player's card is to go to that end
   bool computerAimsLeftBottom = false;  ///< the computer's card is to go to that end
   int selectedCard = 0;                 ///< the player's selection, noSelection for none
+  int refusals = 0;                     ///< cards that the player wanted to lay and could not
 
   // What the player is asked and told.
   bool choiceOpen = false;     ///< the same-number choice waits for an answer
@@ -152,6 +161,9 @@ struct GameState {
   int twipsPerPixel = 15;
   int screenValue = designScreenValue;  ///< screen size in force, 70 to 99 but for the design value
 
+  [[nodiscard]] std::span<const LaidCard> laidCards() const {
+    return std::span(laid).first(static_cast<std::size_t>(laidCount));
+  }
   /// The card of a slot, 0 to 27; anything else is a std::out_of_range.
   [[nodiscard]] Card& card(int slot) { return cards.at(static_cast<std::size_t>(slot)); }
   [[nodiscard]] const Card& card(int slot) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/control.h"
@@ -24,6 +25,12 @@ struct SpokenList {
 struct Speech {
   std::vector<SpokenList> lists;  ///< what can be asked for; always as many
   std::string news;               ///< what is said without being asked
+  int timesTold = 0;              ///< also when the same came again
+
+  void tell(std::string words) {
+    news = std::move(words);
+    ++timesTold;
+  }
 };
 
 }  // namespace mevracard

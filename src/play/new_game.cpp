@@ -44,6 +44,7 @@ void clearTable(MainWindow& w, double scale) {
   w.result.show(false);
   s.laidAt = {};
   s.openings = 0;
+  s.laidCount = 0;
   s.cardsLeft = {{handSize, handSize}};
   s.passes = {};
   for (std::size_t i = 0; i < w.table.markers.size(); ++i) {

@@ -41,6 +41,7 @@ void closePanelIfOpen(MainWindow& w) {
 /// A reply that was due stays due, else a player who cannot move would wait for ever; the choice
 /// must not go on with the refused card.
 void refuseCard(MainWindow& w, bool replyWasDue) {
+  ++w.state.refusals;
   if (replyWasDue) w.timer.goOn();
   if (!w.state.choiceOpen) return;
   closeChoice(w);

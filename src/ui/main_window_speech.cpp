@@ -56,7 +56,7 @@ SpokenList handList(MainWindow& w, Side side, std::string_view name) {
   return list;
 }
 
-/// The cards at the ends come first.
+/// The cards at the ends come first, then those between them from Right/Top to Left/Bottom.
 SpokenList tableList(MainWindow& w) {
   const GameState& s = w.state;
   SpokenList list{"Table", {}};
@@ -73,9 +73,13 @@ SpokenList tableList(MainWindow& w) {
                              : ", at the " + std::string(nameOf(end)) + " end, open number " +
                                    std::to_string(s.openNumber[end]));
   }
-  for (const int slot : allSlots) {
-    if (!s.card(slot).held && slot != first && slot != second) add(slot, "");
-  }
+  const auto laid = s.laidCards();
+  const auto addBetween = [&](const LaidCard& card, End end) {
+    if (card.end == end && card.slot != first && card.slot != second) add(card.slot, "");
+  };
+  std::for_each(laid.rbegin(), laid.rend(),
+                [&](const LaidCard& card) { addBetween(card, End::RightTop); });
+  for (const LaidCard& card : laid) addBetween(card, End::LeftBottom);
   return list;
 }
 
@@ -99,24 +103,28 @@ SpokenList scoreList(MainWindow& w) {
   return list;
 }
 
-/// The cards that a side has laid since, in the order of its hand.
-std::string laidSince(const GameState& told, const GameState& s, Side side) {
-  std::string names;
-  for (const int slot : handOf(side)) {
-    if (!told.card(slot).held || s.card(slot).held) continue;
-    names += (names.empty() ? "" : ", ") + nameOf(s.card(slot));
+/// "You lay 1-3 at Right/Top. Computer lays 3-5, 5-6 at Right/Top, 1-1 at Left/Bottom. ", in order.
+std::string laidSince(const GameState& told, const GameState& s) {
+  const auto laid = s.laidCards();
+  const auto first = static_cast<std::size_t>(told.laidCount <= s.laidCount ? told.laidCount : 0);
+  std::string words;
+  for (std::size_t i = first; i < laid.size(); ++i) {
+    const auto [slot, end] = laid[i];
+    const bool sideGoesOn = i > first && ownerOf(laid[i - 1].slot) == ownerOf(slot);
+    const bool endGoesOn = sideGoesOn && laid[i - 1].end == end;
+    if (i > first && !endGoesOn) words += " at " + std::string(nameOf(laid[i - 1].end));
+    if (i > first) words += sideGoesOn ? ", " : ". ";
+    if (!sideGoesOn) words += ownerOf(slot) == Side::Player ? "You lay " : "Computer lays ";
+    words += nameOf(s.card(slot));
   }
-  if (names.empty()) return names;
-  return (side == Side::Player ? "You lay " : "Computer lays ") + names + ". ";
+  if (words.empty()) return words;
+  // The opening's card lies at no end.
+  return words + (laid.size() > 1 ? " at " + std::string(nameOf(laid.back().end)) : "") + ". ";
 }
 
 /// A card that the player wanted to lay and could not.
 std::string refusedSince(const GameState& told, const GameState& s) {
-  const bool dropped = told.selectedCard != s.selectedCard && s.selectedCard == noSelection;
-  const int slot = s.playCard;
-  if ((!dropped && slot == told.playCard) || told.openings == 0 || s.tutorial.running) return "";
-  if (slot >= handSize || !s.card(slot).held || fits(s, slot)) return "";
-  return nameOf(s.card(slot)) + " does not fit. ";
+  return s.refusals == told.refusals ? "" : nameOf(s.card(s.playCard)) + " does not fit. ";
 }
 
 std::string selectedSince(const GameState& told, MainWindow& w) {
@@ -140,7 +148,7 @@ std::string resultWords(const Result& result) {
 
 std::string newsSince(const GameState& told, MainWindow& w) {
   const GameState& s = w.state;
-  const std::string laid = laidSince(told, s, Side::Player) + laidSince(told, s, Side::Computer);
+  const std::string laid = laidSince(told, s);
   std::string news =
       laid + (laid.empty() ? "" : openNumbers(s)) + refusedSince(told, s) + selectedSince(told, w);
   if (s.gameOver) return told.gameOver ? news : news + resultWords(w.result);
@@ -169,13 +177,17 @@ void MainWindow::speak() {
   speech.lists = {handList(*this, Side::Player, "Your cards"),
                   handList(*this, Side::Computer, "Computer's cards"), tableList(*this),
                   scoreList(*this)};
-  if (std::string news = newsSince(told, *this); !news.empty()) speech.news = std::move(news);
+  if (const std::string news = newsSince(told, *this); !news.empty()) speech.tell(news);
   told = state;
 
-  about.form.speech.lists = {{about.heading.caption, {{&about.heading, about.heading.caption}}}};
-  about.form.speech.news = aboutNews(*this);
-  const SpokenList figures = figuresOf(statistics);
-  statistics.form.speech = {{figures}, figures.items[0].words + ". " + figures.items[1].words};
+  Speech& aboutSpeech = about.form.speech;
+  aboutSpeech.lists = {{about.heading.caption, {{&about.heading, about.heading.caption}}}};
+  if (const std::string news = aboutNews(*this); news != aboutSpeech.news) aboutSpeech.tell(news);
+  Speech& statisticsSpeech = statistics.form.speech;
+  statisticsSpeech.lists = {figuresOf(statistics)};
+  const auto& figures = statisticsSpeech.lists[0].items;
+  const std::string news = figures[0].words + ". " + figures[1].words;
+  if (news != statisticsSpeech.news) statisticsSpeech.tell(news);
 }
 
 }  // namespace mevracard

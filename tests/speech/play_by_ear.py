@@ -1,8 +1,8 @@
 #!/usr/bin/python3
 """play_by_ear.py PROGRAM: plays a whole game with the computer's cards face down, by keys and by
 what assistive technology hears alone; the first card that fits is laid by its press action. It runs
-on a bus of its own. Whatever can be heard or asked
-for is held against the cards that are the player's to see."""
+on a bus of its own. Whatever can be heard or asked for is held against the cards that are the player's
+to see, and each move against the ends of the chain as they were heard before."""
 
 import os
 import re
@@ -16,6 +16,7 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
 PATIENCE = 120  # seconds without a word until the game counts as dumb
+OPEN = re.compile(r"Open numbers: (\d) at Right/Top, (\d) at Left/Bottom")
 LAST_WORDS = re.compile(r"You (win|lose)\.")
 
 
@@ -35,7 +36,7 @@ def parts(root):
 class Player:
     def __init__(self):
         self.game, self.news, self.heard, self.hand = None, [], [], None
-        self.pressed = False
+        self.pressed, self.laid, self.ends = False, set(), {}
         self.listener = Atspi.EventListener.new(self.hear)
         for kind in "object:state-changed:focused", "object:announcement":
             self.listener.register(kind)
@@ -43,7 +44,7 @@ class Player:
     def start(self, program):
         data = Path(os.environ["XDG_DATA_HOME"], "mevracard")
         data.mkdir(parents=True)
-        (data / "wdx.sys").write_bytes(b"2/2/99\r\n")  # the computer's cards face down
+        (data / "wdx.sys").write_bytes(b"2/1/99\r\n")  # the computer's cards face down
         (data / "sys32rtn.dat").write_bytes(b"547153507498\r\n")  # no games yet
         always = {**os.environ, "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
         self.game = subprocess.Popen([program], env=always)
@@ -73,11 +74,27 @@ class Player:
             if not words or self.heard[-1:] == [words]:
                 continue
             self.heard.append(words)
+            self.follow(words)
             items = self.look_for_covered_cards(words)
             if "Your Turn" in words and not self.pressed and self.press_one(items["Your cards"]):
                 self.pressed = True
             elif key := self.answer_to(words, source.get_role()):
                 subprocess.run(["xdotool", "key", key], check=True)
+
+    def follow(self, words):
+        """Lays what is heard at the ends as they were, in the order in which it is told."""
+        if cards([words]) <= self.laid or not (told := OPEN.search(words)):
+            return  # heard before
+        for moves, end in re.findall(r"((?:\d-\d(?:, )?)+)(?: at (\w+/\w+))?[,.]", words):
+            for card in re.findall(r"\d-\d", moves):
+                ends = [end] if end else ["Right/Top", "Left/Bottom"]
+                for place in ends:
+                    numbers = [card[0], card[2]]
+                    numbers.remove(self.ends.get(place, card[0]))
+                    self.ends[place] = numbers[0]
+                self.laid.add(card)
+        if [*self.ends.values()] != [*told.groups()]:
+            self.fail(f"the ends are {self.ends}")
 
     @staticmethod
     def press_one(cards_in_hand):

@@ -57,6 +57,15 @@ class SpokenCanvas final : public QAccessibleWidget {
   int indexOfChild(const QAccessibleInterface* part) const override {
     return indexOf(*this, part, childCount());
   }
+  QAccessibleInterface* childAt(int x, int y) const override {
+    for (int i = firstList; i < childCount(); ++i) {
+      QAccessibleInterface* part = child(i);
+      const bool hit = i < ownCount() ? part->childAt(x, y) != nullptr
+                                      : !part->state().invisible && part->rect().contains(x, y);
+      if (hit) return part;
+    }
+    return nullptr;
+  }
   QAccessible::State state() const override {
     QAccessible::State state = QAccessibleWidget::state();
     state.focusable = true;
@@ -221,14 +230,18 @@ void reportChanges(const Speech& before, const Speech& now, QWidget& canvas) {
 
 void Voice::flush(const Speech& speech, QWidget& canvas, QWidget& listener) {
   const QString news = toText(speech.news);
-  QString name = news;
-  if (const auto* button = qobject_cast<QAbstractButton*>(&listener)) name += " " + button->text();
-  if (listener_ != &listener && listener_ != nullptr) listener_->setAccessibleName({});
-  listener_ = &listener;
+  if (listener_ != &listener) {
+    if (listener_ != nullptr) listener_->setAccessibleName(ownName_);
+    ownName_ = listener.accessibleName();
+    listener_ = &listener;
+  }
+  const auto* button = qobject_cast<QAbstractButton*>(&listener);
+  const QString own = button != nullptr ? button->text() : ownName_;
+  const QString name = own.isEmpty() ? news : news + " " + own;
   if (listener.accessibleName() != name) listener.setAccessibleName(name);
   if (QAccessible::isActive()) {
     reportChanges(told_, speech, canvas);
-    if (speech.news != told_.news && listener.hasFocus() && listener.isEnabled())
+    if (speech.timesTold != told_.timesTold && listener.hasFocus() && listener.isEnabled())
       announce(canvas, news);
   }
   told_ = speech;

@@ -17,6 +17,7 @@ class Voice {
  private:
   Speech told_;
   QPointer<QWidget> listener_;
+  QString ownName_;  ///< of the listener, when no news are in its name
 };
 
 /// From now on every canvas has the accessible tree of its window's speech.
