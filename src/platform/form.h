@@ -49,16 +49,18 @@ struct Glide {
 struct Form {
   std::string_view name;
   std::string caption;
-  /// Client size; the place is in the main window, and 0, 0 for its middle.
-  float left = 0, top = 0, width = 0, height = 0;
+  float left = 0, top = 0;      ///< in the main window
+  float width = 0, height = 0;  ///< client size
   bool maximized = false;
   bool visible = false;
   bool enabled = true;
   Color backColor;
   const Box* whole = nullptr;  ///< what a window of any size shows all of, in its middle
-  /// What the window shall not lie on; if there is any of it, the window's place is left to the
-  /// desktop.
-  std::vector<const Box*> clearOf;
+  double growth = 1;           ///< how many times larger the player may make that
+  /// Whether the window is to open at `left` and `top` if the screen has room for it there; else
+  /// the desktop finds it a place near the middle of the main window.
+  bool placed = false;
+  std::vector<const Box*> clearOf;  ///< what it shall not lie on in a place that the desktop finds
   /// What Esc presses on a real desktop: the first of these that is usable. A window beside the
   /// main one is closed if there is none.
   std::vector<Button*> escape;

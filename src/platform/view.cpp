@@ -40,9 +40,10 @@ Dots View::box(const Box& box, double atLeft, double atTop) const {
 
 View View::plain(double ratio) { return {ratio / twipsPerDesignPixel, 0, 0}; }
 
-View View::fitted(const Box& whole, double width, double height, double ratio) {
+View View::fitted(const Box& whole, double width, double height, double ratio, double growth) {
   const double own = ratio / twipsPerDesignPixel;
-  const double scale = std::min({own, share(width, whole.width), share(height, whole.height)});
+  const double scale =
+      std::min({own, share(width, whole.width * growth), share(height, whole.height * growth)});
   return {scale, originFor(width, whole.left, whole.width, scale),
           originFor(height, whole.top, whole.height, scale)};
 }

@@ -33,7 +33,10 @@ struct View {
   [[nodiscard]] static View plain(double ratio);
   /// All of `whole` in the middle of a window of this many dots: at its own size where the window
   /// has room for that, else smaller, never larger.
-  [[nodiscard]] static View fitted(const Box& whole, double width, double height, double ratio);
+  /// If the player may make it `growth` times larger, that has room too, so that it is seen to
+  /// grow.
+  [[nodiscard]] static View fitted(const Box& whole, double width, double height, double ratio,
+                                   double growth = 1);
 };
 
 }  // namespace mevracard

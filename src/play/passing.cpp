@@ -35,9 +35,10 @@ bool turnWasPlain(const GameState& s) {
 /// Right of the card at the Right/Top end, which stays in view.
 void placePopup(MainWindow& w) {
   const Frame& endCard = w.card(w.state.endCard[End::RightTop].value_or(0)).frame;
+  w.keepAboutClear();
+  w.about.form.placed = true;
   w.about.form.left = endCard.left + endCard.width + popupGap;
   w.about.form.top = popupTop;
-  w.about.form.clearOf.clear();
 }
 
 }  // namespace

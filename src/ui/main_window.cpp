@@ -23,6 +23,7 @@ double MainWindow::scaleFactor() const { return scaleOf(state.screenValue, state
 
 void MainWindow::keepAboutClear() {
   Form& window = about.form;
+  window.placed = false;
   window.clearOf = {&choice.leftBottom, &choice.rightTop, &choice.cancel};
   for (std::size_t i = 0; i < cardCount; ++i) {
     if (!state.cards[i].held) window.clearOf.push_back(&cards[i].frame);
@@ -38,6 +39,7 @@ void MainWindow::refresh() {
   showNumber(table.counters[1], state.cardsLeft[Side::Player]);
   showNumber(table.counters[2], state.passes[Side::Computer]);
   showNumber(table.counters[3], state.passes[Side::Player]);
+  form.growth = static_cast<double>(sizePanel.bar.maximum) / std::max(1, sizePanel.bar.value);
   result.deadlock.visible = state.deadlock;
   menu.playerLevel1.checked = state.playerLevel == 1;
   menu.playerLevel2.checked = state.playerLevel == 2;

@@ -24,7 +24,8 @@ Views Canvas::viewsNow() const {
   const Dots window{0, 0, size.width(), size.height()};
   const View plain = View::plain(ratio);
   if (form_.whole == nullptr) return {plain, plain, window};
-  return {View::fitted(*form_.whole, size.width(), size.height(), ratio), plain, window};
+  return {View::fitted(*form_.whole, size.width(), size.height(), ratio, form_.growth), plain,
+          window};
 }
 
 void Canvas::flush() {

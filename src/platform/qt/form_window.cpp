@@ -70,7 +70,7 @@ FormWindow::FormWindow(Form& form, Deliver deliver, FormWindow* mainWindow)
 void FormWindow::flush() {
   flushing_ = true;
   setWindowTitle(toText(form_.caption));
-  const Whereabouts whereabouts{{form_.left, form_.top}, !form_.clearOf.empty()};
+  const Whereabouts whereabouts{{form_.left, form_.top}, form_.placed};
   if (std::exchange(flushedWhereabouts_, whereabouts) != whereabouts && main_ != nullptr) {
     moveToItsPlace();
   }
@@ -126,22 +126,21 @@ void FormWindow::open() {
 }
 
 void FormWindow::moveToItsPlace() {
-  move(placeInside(frameGeometry().size(), screen()->availableGeometry(), itsPlace()));
-}
-
-QPoint FormWindow::itsPlace() const {
   const Canvas& table = *main_->canvas_;
-  if (form_.clearOf.empty() && (form_.left != 0 || form_.top != 0)) {
-    return table.mapToGlobal(table.toPixels(Position{form_.left, form_.top}));
+  const QRect screens = screen()->availableGeometry();
+  // Before it is shown its frame is unknown, but not unlike the main window's.
+  const QSize whole = size() + main_->frameGeometry().size() - main_->size();
+  const QPoint wanted = table.mapToGlobal(table.toPixels(Position{form_.left, form_.top}));
+  if (form_.placed && placeInside(whole, screens, wanted) == wanted) {
+    move(wanted);
+    return;
   }
   std::vector<QRect> clear;
   constexpr int gap = 6;  // pixels
   for (const Box* box : form_.clearOf) {
     clear.push_back(main_->placeOnScreen(*box).adjusted(-gap, -gap, gap, gap));
   }
-  // Before it is shown its frame is unknown, but not unlike the main window's.
-  const QSize frame = main_->frameGeometry().size() - main_->size();
-  return clearPlace(size() + frame, screen()->availableGeometry(), areaOf(*main_), clear);
+  move(clearPlace(whole, screens, areaOf(*main_), clear));
 }
 
 QRect FormWindow::placeOnScreen(const Box& control) const {
@@ -151,8 +150,11 @@ QRect FormWindow::placeOnScreen(const Box& control) const {
 
 QPoint FormWindow::middle() const {
   // A window that is about to fill the screen has another size yet.
+  constexpr int frame = 16;  // pixels that it may have less all the same
   const QRect screens = areaOf(*this);
-  if (width() < screens.width()) return screens.center() + QPoint(0, canvas_->y() / 2);
+  if (std::abs(screens.width() - width()) > frame) {
+    return screens.center() + QPoint(0, canvas_->y() / 2);
+  }
   return canvas_->mapToGlobal(canvas_->rect().center());
 }
 

@@ -45,7 +45,6 @@ class FormWindow final : public QMainWindow, private ControlEvents {
   void focusMoved(Control& control, Qt::FocusReason reason) override;
 
   void moveToItsPlace();
-  [[nodiscard]] QPoint itsPlace() const;
   /// Gives the keyboard to a window in front that takes events.
   void passKeyboardOn();
   void flushTimer();
@@ -54,7 +53,7 @@ class FormWindow final : public QMainWindow, private ControlEvents {
   bool escape();
   void tick();
 
-  /// Where the form wants its window, and whether it leaves that to the desktop.
+  /// Where the form wants its window, and whether it wants it there at all.
   using Whereabouts = std::pair<Position, bool>;
 
   Form& form_;
