@@ -65,7 +65,8 @@ SpokenList tableList(MainWindow& w) {
     if (frame.visible) list.items.push_back({&frame, nameOf(s.card(slot)) + place});
   };
   if (s.openings == 0) return list;
-  const auto [first, second] = s.endCard.values;
+  const auto first = s.endCard[End::RightTop];
+  const auto second = s.endCard[End::LeftBottom];
   for (const End end : ends) {
     if (!s.endCard[end] || (end == End::LeftBottom && first == second)) continue;
     add(*s.endCard[end], first == second
@@ -74,12 +75,12 @@ SpokenList tableList(MainWindow& w) {
                                    std::to_string(s.openNumber[end]));
   }
   const auto laid = s.laidCards();
-  const auto addBetween = [&](const LaidCard& card, End end) {
+  const auto tellInside = [&](const LaidCard& card, End end) {
     if (card.end == end && card.slot != first && card.slot != second) add(card.slot, "");
   };
   std::for_each(laid.rbegin(), laid.rend(),
-                [&](const LaidCard& card) { addBetween(card, End::RightTop); });
-  for (const LaidCard& card : laid) addBetween(card, End::LeftBottom);
+                [&](const LaidCard& card) { tellInside(card, End::RightTop); });
+  for (const LaidCard& card : laid) tellInside(card, End::LeftBottom);
   return list;
 }
 

@@ -140,7 +140,9 @@ class Part final : public QAccessibleInterface, public QAccessibleActionInterfac
   QString text(QAccessible::Text kind) const override {
     if (kind != QAccessible::Name || state().invisible) return {};
     if (isNews()) return toText(canvas_.speech().news);
-    return toText(list() != nullptr ? list()->words : item()->words);
+    if (const SpokenList* list = this->list()) return toText(list->words);
+    const SpokenItem* item = this->item();
+    return item != nullptr ? toText(item->words) : QString();
   }
 
   void* interface_cast(QAccessible::InterfaceType type) override {
