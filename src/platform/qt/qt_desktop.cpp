@@ -37,7 +37,7 @@ QtDesktop::QtDesktop(const std::filesystem::path& dataDir, const std::vector<Def
   applyLook();
   installVoices();
   // What the first picture does not need waits until it is there.
-  constexpr int afterOpening = 100;  // ms
+  constexpr int afterOpening = 250;  // ms
   QTimer::singleShot(afterOpening, &dueTicks_, [] {
     applyIcon();
     askAboutMotion();
