@@ -1,7 +1,6 @@
 #include "platform/picture.h"
 
 #include <algorithm>
-#include <cmath>
 #include <unordered_map>
 
 namespace mevracard {
@@ -9,20 +8,6 @@ namespace mevracard {
 namespace {
 
 constexpr int labelPadding = 2;  // pixels beside a text that is not centred
-
-Dots placeOf(const Line& line, const View& view) {
-  const int width = view.border(line.borderWidth);
-  const auto [left, right] = std::minmax({view.x(line.x1), view.x(line.x2)});
-  const auto [top, bottom] = std::minmax({view.y(line.y1), view.y(line.y2)});
-  // The corners of a slanted line stand out.
-  const double out = isStraight(line) ? width / 2.0 : width + 1;
-  // Either end is rounded by itself, so that two lines that meet in a corner end with one another.
-  const auto start = [&](double from) { return static_cast<int>(std::lround(from - out)); };
-  const auto length = [&](double from, double to) {
-    return start(to) - start(from) + static_cast<int>(std::lround(2 * out));
-  };
-  return {start(left), start(top), length(left, right), length(top, bottom)};
-}
 
 /// Makes a picture, one window or frame at a time.
 class Maker {
@@ -47,7 +32,7 @@ class Maker {
           break;
         case ControlKind::Line:
           item.look = static_cast<const Line&>(**c);
-          item.place = placeOf(static_cast<const Line&>(**c), item.view);
+          item.place = item.view.line(static_cast<const Line&>(**c));
           picture_.push_back(item);
           break;
         case ControlKind::Button:  // that only takes keys, or a widget
@@ -112,7 +97,7 @@ class Maker {
     const View view = viewOf(control, frame);
     if (control.kind == ControlKind::Line) {
       const auto& line = static_cast<const Line&>(control);
-      return isStraight(line) ? placeOf(line, view) : Dots();
+      return isStraight(line) ? view.line(line) : Dots();
     }
     const bool solid = control.kind == ControlKind::Label
                            ? static_cast<const Label&>(control).opaque
@@ -159,13 +144,11 @@ bool isWidget(const Control& control) {
   return label.link || label.scrolls;
 }
 
-bool isStraight(const Line& line) { return line.x1 == line.x2 || line.y1 == line.y2; }
-
 Picture pictureOf(const Form& form, const Views& views,
-                  const std::function<Position(const Frame&)>& placeOf) {
+                  const std::function<Position(const Frame&)>& seenAt) {
   Picture picture;
   picture.reserve(form.controls.size() * 5);
-  Maker(views, placeOf, picture).add(form.controls, nullptr);
+  Maker(views, seenAt, picture).add(form.controls, nullptr);
   return picture;
 }
 

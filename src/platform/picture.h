@@ -55,12 +55,9 @@ struct Views {
 /// Whether the player presses, types or scrolls there, so that it is more than painted.
 [[nodiscard]] bool isWidget(const Control& control);
 
-/// Whether a line is upright or level.
-[[nodiscard]] bool isStraight(const Line& line);
-
-/// `placeOf` tells where a frame is to be seen, which may be on its way to where it belongs.
+/// `seenAt` tells where a frame is to be seen, which may be on its way to where it belongs.
 [[nodiscard]] Picture pictureOf(const Form& form, const Views& views,
-                                const std::function<Position(const Frame&)>& placeOf);
+                                const std::function<Position(const Frame&)>& seenAt);
 
 /// The label or frame that lies in front at a dot; null for none.
 [[nodiscard]] Control* controlAt(const Picture& picture, int x, int y);

@@ -38,6 +38,19 @@ Dots View::box(const Box& box, double atLeft, double atTop) const {
           std::max(0, dot(near(box.height * dotsPerTwip)))};
 }
 
+Dots View::line(const Line& line) const {
+  const int width = border(line.borderWidth);
+  const auto [west, east] = std::minmax({x(line.x1), x(line.x2)});
+  const auto [north, south] = std::minmax({y(line.y1), y(line.y2)});
+  // The corners of a slanted line stand out.
+  const double out = isStraight(line) ? width / 2.0 : width + 1;
+  const auto start = [out](double from) { return dot(from - out); };
+  const auto length = [&](double from, double to) {
+    return start(to) - start(from) + dot(2 * out);
+  };
+  return {start(west), start(north), length(west, east), length(north, south)};
+}
+
 View View::plain(double ratio) { return {ratio / twipsPerDesignPixel, 0, 0}; }
 
 View View::fitted(const Box& whole, double width, double height, double ratio, double growth) {
@@ -47,5 +60,7 @@ View View::fitted(const Box& whole, double width, double height, double ratio, d
   return {scale, originFor(width, whole.left, whole.width, scale),
           originFor(height, whole.top, whole.height, scale)};
 }
+
+bool isStraight(const Line& line) { return line.x1 == line.x2 || line.y1 == line.y2; }
 
 }  // namespace mevracard

@@ -29,14 +29,20 @@ struct View {
   /// The box elsewhere.
   [[nodiscard]] Dots box(const Box& box, double atLeft, double atTop) const;
 
+  /// What an upright or level line covers, or the box around a slanted one. Lines that meet in a
+  /// corner end with one another.
+  [[nodiscard]] Dots line(const Line& line) const;
+
   /// The design at its own size, from the window's corner; `ratio` is the dots of a pixel.
   [[nodiscard]] static View plain(double ratio);
   /// All of `whole` in the middle of a window of this many dots: at its own size where the window
-  /// has room for that, else smaller, never larger.
-  /// If the player may make it `growth` times larger, that has room too, so that it is seen to
-  /// grow.
+  /// has room for `growth` times that, else smaller, never larger. So what the player makes larger
+  /// is seen to grow.
   [[nodiscard]] static View fitted(const Box& whole, double width, double height, double ratio,
                                    double growth = 1);
 };
+
+/// Whether a line is upright or level.
+[[nodiscard]] bool isStraight(const Line& line);
 
 }  // namespace mevracard

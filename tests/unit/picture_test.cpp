@@ -2,6 +2,8 @@
 #include "platform/picture.h"
 
 #include <algorithm>
+#include <array>
+#include <iterator>
 #include <random>
 
 #include <gtest/gtest.h>

@@ -37,6 +37,9 @@ TEST(View, ShowsAllOfTheTableInTheMiddle) {
     const bool fits = 976 * w.ratio <= w.width && 700 * w.ratio <= w.height;
     EXPECT_EQ(view.length(15) == 15 * w.ratio, fits);
     EXPECT_LE(view.dotsPerTwip, w.ratio / 15);
+    const bool grows = 1.4 * 976 * w.ratio <= w.width && 1.4 * 700 * w.ratio <= w.height;
+    const View small = View::fitted(whole, w.width, w.height, w.ratio, 1.4);
+    EXPECT_EQ(small.dotsPerTwip == w.ratio / 15, grows);
   }
 }
 

@@ -3,6 +3,7 @@
 #include <QPainterPath>
 #include <QPixmapCache>
 #include <QPushButton>
+#include <algorithm>
 #include <cmath>
 
 #include "platform/qt/look.h"
@@ -28,6 +29,7 @@ int readable(const QFont& font) { return qMax(1, qRound(font.pixelSize() * small
 /// room, with line breaks where the room is high enough for them.
 void write(QPainter& painter, const QRect& room, QString text, QFont font, int smallest,
            Alignment alignment) {
+  if (room.isEmpty()) return;
   while (text.endsWith(' ')) text.chop(1);  // these may stand outside
   const bool inTheMiddle =
       alignment == Alignment::Centre || room.height() < linesToBreak * QFontMetrics(font).height();
@@ -59,7 +61,7 @@ void paintLook(QPainter& painter, const Item& item, const Line& line) {
 
 void paintLook(QPainter& painter, const Item& item, const Shape& shape) {
   const int width = shape.outlined ? item.view.border(shape.borderWidth) : 0;
-  // Half of the outline lies outside. Of an odd one the smaller half, so that it lies on dots.
+  // Half of the outline lies outside; an odd one is moved half a dot, so that it lies on dots.
   const double shift = width % 2 / 2.0;
   const QRectF middle = QRectF(toRect(item.place)).translated(shift, shift);
   QPen pen(Qt::NoPen);
@@ -107,9 +109,10 @@ void paintLook(QPainter& painter, const Item& item, const FrameLook& frame) {
   const QRect bounds = toRect(item.bounds());
   const QRect place = toRect(item.place).translated(-bounds.topLeft());
   const QColor colors[] = {toColor(frame.backColor), toColor(frame.mark)};
-  const QString key = QString("card %1 %2 %3 %4")
+  const QString key = QString("card %1 %2 %3 %4 %5")
                           .arg(place.width())
                           .arg(place.height())
+                          .arg(frame.edge)
                           .arg(colors[0].rgb())
                           .arg(colors[1].rgb());
   QPixmap card;
