@@ -15,6 +15,7 @@ void turn(Card& card, int& openNumber, bool upperTouches) {
 }
 
 void note(GameState& s, LaidCard laid) {
+  // A script may lay a card more than once.
   if (s.laidCount < cardCount) s.laid.at(static_cast<std::size_t>(s.laidCount++)) = laid;
 }
 

@@ -32,7 +32,8 @@ bool turnWasPlain(const GameState& s) {
          s.cardsLeft[Side::Player] != 0;
 }
 
-/// Right of the card at the Right/Top end, which stays in view.
+/// Right of the card at the Right/Top end, which stays in view; where the screen has no room there,
+/// clear of the chain.
 void placePopup(MainWindow& w) {
   const Frame& endCard = w.card(w.state.endCard[End::RightTop].value_or(0)).frame;
   w.keepAboutClear();

@@ -108,19 +108,21 @@ SpokenList scoreList(MainWindow& w) {
 std::string laidSince(const GameState& told, const GameState& s) {
   const auto laid = s.laidCards();
   const auto first = static_cast<std::size_t>(told.laidCount <= s.laidCount ? told.laidCount : 0);
+  // The opening's card lies at no end.
+  const auto place = [&](std::size_t i) {
+    return i == 0 ? "" : " at " + std::string(nameOf(laid[i].end));
+  };
   std::string words;
   for (std::size_t i = first; i < laid.size(); ++i) {
-    const auto [slot, end] = laid[i];
+    const int slot = laid[i].slot;
     const bool sideGoesOn = i > first && ownerOf(laid[i - 1].slot) == ownerOf(slot);
-    const bool endGoesOn = sideGoesOn && laid[i - 1].end == end;
-    if (i > first && !endGoesOn) words += " at " + std::string(nameOf(laid[i - 1].end));
+    const bool endGoesOn = sideGoesOn && place(i - 1) == place(i);
+    if (i > first && !endGoesOn) words += place(i - 1);
     if (i > first) words += sideGoesOn ? ", " : ". ";
     if (!sideGoesOn) words += ownerOf(slot) == Side::Player ? "You lay " : "Computer lays ";
     words += nameOf(s.card(slot));
   }
-  if (words.empty()) return words;
-  // The opening's card lies at no end.
-  return words + (laid.size() > 1 ? " at " + std::string(nameOf(laid.back().end)) : "") + ". ";
+  return words.empty() ? words : words + place(laid.size() - 1) + ". ";
 }
 
 /// A card that the player wanted to lay and could not.

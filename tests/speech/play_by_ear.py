@@ -81,17 +81,21 @@ class Player:
             elif key := self.answer_to(words, source.get_role()):
                 subprocess.run(["xdotool", "key", key], check=True)
 
+    def join(self, card, end):
+        numbers = [card[0], card[2]]
+        if self.ends.get(end, card[0]) not in numbers:
+            self.fail(f"{card} cannot join {self.ends}")
+        numbers.remove(self.ends.get(end, card[0]))
+        self.ends[end] = numbers[0]
+
     def follow(self, words):
         """Lays what is heard at the ends as they were, in the order in which it is told."""
         if cards([words]) <= self.laid or not (told := OPEN.search(words)):
             return  # heard before
-        for moves, end in re.findall(r"((?:\d-\d(?:, )?)+)(?: at (\w+/\w+))?[,.]", words):
+        for moves, end in re.findall(r"((?:\d-\d(?:, )?)+)(?: at (\w+/\w+))?[,.]", words[: told.start()]):
             for card in re.findall(r"\d-\d", moves):
-                ends = [end] if end else ["Right/Top", "Left/Bottom"]
-                for place in ends:
-                    numbers = [card[0], card[2]]
-                    numbers.remove(self.ends.get(place, card[0]))
-                    self.ends[place] = numbers[0]
+                for place in [end] if end else ["Right/Top", "Left/Bottom"]:
+                    self.join(card, place)
                 self.laid.add(card)
         if [*self.ends.values()] != [*told.groups()]:
             self.fail(f"the ends are {self.ends}")

@@ -21,7 +21,7 @@ int slotAt(const MainWindow& w, GridPoint place) {
   throw std::logic_error("the chain has grown, but no card lies there");
 }
 
-LaidCard cardAt(const MainWindow& w, End end, int n) {
+JoinedCard cardAt(const MainWindow& w, End end, int n) {
   const Laying laying = layingOf(end, n);
   const int slot = slotAt(w, chainPlace(end, laying.position, laying.column));
   const auto [upper, lower, held] = w.state.card(slot);
@@ -30,7 +30,7 @@ LaidCard cardAt(const MainWindow& w, End end, int n) {
 
 }  // namespace
 
-const std::vector<LaidCard>& ChainLog::cardsLaid(const MainWindow& w) {
+const std::vector<JoinedCard>& ChainLog::cardsLaid(const MainWindow& w) {
   laid_.clear();
   for (const End end : {End::RightTop, End::LeftBottom}) {
     while (seen_[end] < w.state.laidAt[end]) laid_.push_back(cardAt(w, end, ++seen_[end]));

@@ -8,7 +8,7 @@ namespace mevracard::simulate {
 
 /// A card that was laid: which, at which end, the number that touches the chain and the one that it
 /// opened.
-struct LaidCard {
+struct JoinedCard {
   int slot = 0;
   End end = End::RightTop;
   int touching = 0;
@@ -21,13 +21,13 @@ class ChainLog {
   /// The cards laid since the last call, which was before the table was scaled anew: those of the
   /// Right/Top end, then those of the Left/Bottom end, each from the chain outwards. Throws
   /// std::logic_error if no card lies where the chain has grown.
-  [[nodiscard]] const std::vector<LaidCard>& cardsLaid(const MainWindow& w);
+  [[nodiscard]] const std::vector<JoinedCard>& cardsLaid(const MainWindow& w);
   /// A new game lies on the table.
   void restart() { seen_ = {}; }
 
  private:
   PerEnd<int> seen_;  ///< how many cards of each end
-  std::vector<LaidCard> laid_;
+  std::vector<JoinedCard> laid_;
 };
 
 }  // namespace mevracard::simulate

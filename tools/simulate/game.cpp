@@ -13,8 +13,8 @@ namespace {
 /// More than any game needs: 28 cards, as many choices, and a pass with its answer for each.
 constexpr int mostEvents = 200;
 
-void count(Figures& figures, const std::vector<LaidCard>& laid, Signature& signature) {
-  for (const LaidCard& card : laid) {
+void count(Figures& figures, const std::vector<JoinedCard>& laid, Signature& signature) {
+  for (const JoinedCard& card : laid) {
     ++(ownerOf(card.slot) == Side::Player ? figures.player : figures.computer).cards;
     signature.fold(card.slot);
     signature.fold(static_cast<int>(card.end));

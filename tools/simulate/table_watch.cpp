@@ -58,7 +58,7 @@ const char* TableWatch::aboutChain() {
   }
   int players = 0;
   int computers = 0;
-  for (const LaidCard& card : chain_.cardsLaid(w_)) {
+  for (const JoinedCard& card : chain_.cardsLaid(w_)) {
     if (card.touching != open_[card.end]) return "a card touches the chain with a number that fits";
     open_[card.end] = card.opened;
     endCard_[card.end] = card.slot;

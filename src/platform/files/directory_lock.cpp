@@ -10,6 +10,7 @@
 #include <unistd.h>
 
 #include "platform/desktop.h"
+#include "platform/files/whole_file.h"
 
 namespace mevracard {
 
@@ -21,13 +22,11 @@ using std::chrono::steady_clock;
 constexpr milliseconds patience{2000};
 constexpr milliseconds pause{5};
 
-std::string reason(int error) { return std::generic_category().message(error); }
-
 }  // namespace
 
 DirectoryLock::DirectoryLock(const std::filesystem::path& directory)
     : handle_(::open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
-  if (handle_ < 0) throw PlatformError(reason(errno));
+  demand(handle_ >= 0);
   const auto end = steady_clock::now() + patience;
   while (::flock(handle_, LOCK_EX | LOCK_NB) != 0) {
     const int error = errno;
@@ -37,7 +36,8 @@ DirectoryLock::DirectoryLock(const std::filesystem::path& directory)
       continue;
     }
     ::close(handle_);
-    throw PlatformError(busy ? "another program is writing" : reason(error));
+    throw PlatformError(busy ? "another program is writing"
+                             : std::generic_category().message(error));
   }
 }
 
@@ -45,7 +45,7 @@ DirectoryLock::~DirectoryLock() { ::close(handle_); }
 
 void DirectoryLock::sync() const {
   // Some file systems know no sync of a directory: there is nothing to wait for then.
-  if (::fsync(handle_) != 0 && errno != EINVAL) throw PlatformError(reason(errno));
+  demand(::fsync(handle_) == 0 || errno == EINVAL);
 }
 
 }  // namespace mevracard

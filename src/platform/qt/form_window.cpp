@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QScreen>
 #include <algorithm>
+#include <cstdlib>
 #include <utility>
 
 #include "platform/qt/look.h"
@@ -71,7 +72,8 @@ void FormWindow::flush() {
   flushing_ = true;
   setWindowTitle(toText(form_.caption));
   const Whereabouts whereabouts{{form_.left, form_.top}, form_.placed};
-  if (std::exchange(flushedWhereabouts_, whereabouts) != whereabouts && main_ != nullptr) {
+  if (std::exchange(flushedWhereabouts_, whereabouts) != whereabouts && main_ != nullptr &&
+      isVisible()) {
     moveToItsPlace();
   }
   if (menu_ != nullptr) {
@@ -127,11 +129,12 @@ void FormWindow::open() {
 
 void FormWindow::moveToItsPlace() {
   const Canvas& table = *main_->canvas_;
-  const QRect screens = screen()->availableGeometry();
+  const QRect room = main_->screen()->availableGeometry();
   // Before it is shown its frame is unknown, but not unlike the main window's.
-  const QSize whole = size() + main_->frameGeometry().size() - main_->size();
+  const QSize around = main_->frameGeometry().size() - main_->size();
+  const QSize whole = isVisible() ? frameGeometry().size() : size() + around;
   const QPoint wanted = table.mapToGlobal(table.toPixels(Position{form_.left, form_.top}));
-  if (form_.placed && placeInside(whole, screens, wanted) == wanted) {
+  if (form_.placed && placeInside(whole, room, wanted) == wanted) {
     move(wanted);
     return;
   }
@@ -140,7 +143,7 @@ void FormWindow::moveToItsPlace() {
   for (const Box* box : form_.clearOf) {
     clear.push_back(main_->placeOnScreen(*box).adjusted(-gap, -gap, gap, gap));
   }
-  move(clearPlace(whole, screens, areaOf(*main_), clear));
+  move(clearPlace(whole, room, areaOf(*main_), clear));
 }
 
 QRect FormWindow::placeOnScreen(const Box& control) const {

@@ -65,6 +65,8 @@ QRect areaOf(const QWidget& window) {
 }
 
 void applyLook() {
+  // The menu belongs to the table on every desktop; to look for another place takes a while.
+  QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
   QApplication::setStyle(QStyleFactory::create("Fusion"));
   QApplication::setPalette(lightPalette());
   QApplication::setLayoutDirection(Qt::LeftToRight);

@@ -15,8 +15,8 @@ void tidy(QMessageBox& box) {
   auto* grid = qobject_cast<QGridLayout*>(box.layout());
   auto* text = box.findChild<QLabel*>("qt_msgbox_label");
   if (grid == nullptr || text == nullptr) return;
-  QLayoutItem* indent = grid->itemAtPosition(0, 0);
   if (box.icon() == QMessageBox::NoIcon) {
+    QLayoutItem* indent = grid->itemAtPosition(0, 0);
     if (indent != nullptr && indent->spacerItem() != nullptr) {
       indent->spacerItem()->changeSize(0, 0);
     }

@@ -36,7 +36,7 @@ QtDesktop::QtDesktop(const std::filesystem::path& dataDir, const std::vector<Def
     : files_(dataDir, defaults) {
   applyLook();
   installVoices();
-  // What the first picture does not need waits until it is there.
+  // What the first picture does not need waits for a moment.
   constexpr int afterOpening = 250;  // ms
   QTimer::singleShot(afterOpening, &dueTicks_, [] {
     applyIcon();

@@ -33,8 +33,6 @@ std::filesystem::path directoryOf(const DesktopSetup& setup) {
 int runOnDesktop(const DesktopSetup& setup,
                  const std::function<void(Desktop&, const std::function<void()>& loop)>& program) {
   int nameAlone = 1;  // the game takes no options, and so the toolkit gets none
-  // The menu belongs to the table on every desktop; to look for another place takes a while.
-  QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
   const QtMessageHandler before = qInstallMessageHandler(reportMissingDisplay);
   const QApplication application(nameAlone, setup.argv);
   qInstallMessageHandler(before);

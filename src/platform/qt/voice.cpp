@@ -31,7 +31,7 @@ int indexOf(const QAccessibleInterface& parent, const QAccessibleInterface* chil
   return -1;
 }
 
-/// The canvas: the news of now and of before, the lists, and then its widgets.
+/// The canvas: two places for the news, the lists, and then its widgets.
 class SpokenCanvas final : public QAccessibleWidget {
  public:
   explicit SpokenCanvas(Canvas& canvas)
@@ -239,7 +239,7 @@ void Voice::flush(const Speech& speech, QWidget& canvas, QWidget& listener) {
   }
   const auto* button = qobject_cast<QAbstractButton*>(&listener);
   const QString own = button != nullptr ? button->text() : ownName_;
-  const QString name = own.isEmpty() ? news : news + " " + own;
+  const QString name = news.isEmpty() || own.isEmpty() ? news + own : news + " " + own;
   if (listener.accessibleName() != name) listener.setAccessibleName(name);
   if (QAccessible::isActive()) {
     reportChanges(told_, speech, canvas);
