@@ -43,9 +43,25 @@ void showFile(const Call& call) {
         (file == files.end() ? "none" : quoted(file->second)));
 }
 
+std::string itemText(const SpokenItem& item) {
+  return "item " + item.control->fullName() + " " + quoted(item.words) +
+         (item.selected ? " selected" : "") + (item.answersPress ? " pressable" : "");
+}
+
+void showSpeech(const HeadlessDesktop& desktop) {
+  if (!desktop.speaks()) throw ScriptError("speech is off");
+  const Form* form = desktop.activeForm();
+  if (form == nullptr) return;
+  for (const SpokenList& list : form->speech.lists) {
+    print("list " + quoted(list.words));
+    for (const SpokenItem& item : list.items) print(itemText(item));
+  }
+}
+
 void show(const Call& call) {
   call.session().window().refresh();  // captions follow the state
   if (call.words[0] == "file") return showFile(call);
+  if (call.text == "speech") return showSpeech(call.session().desktop);
   // All names are looked up before the first is shown, so that a faulty line shows nothing.
   std::vector<std::string> lines;
   for (const auto name : call.words) {

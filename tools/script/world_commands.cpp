@@ -81,11 +81,18 @@ void pointer(const Call& call) {
   if (word != "yes" && word != "no") throw ScriptError("pointer yes or no");
 }
 
+void speech(const Call& call) {
+  const std::string_view word = call.words[0];
+  if (word != "on" && word != "off") throw ScriptError("speech on or off");
+  world(call).speaks = word == "on";
+  if (call.session().desktop.running()) call.session().window().present();
+}
+
 void reset(const Call& call) { call.slot = std::make_unique<Session>(); }
 
 void echo(const Call& call) { print(call.text); }
 
-constexpr std::array<Command, 12> table{{
+constexpr std::array<Command, 13> table{{
     {"screen", "screen HEIGHT TPP", 2, 2, false, screen},
     {"date", "date TEXT", 1, anyNumber, false, date},
     {"time", "time MINUTE SECOND", 2, 2, false, time},
@@ -96,6 +103,7 @@ constexpr std::array<Command, 12> table{{
     {"refuse", "refuse read|write NAME", 2, 2, false, refuse},
     {"allow", "allow NAME", 1, 1, false, allow},
     {"pointer", "pointer yes|no", 1, 1, false, pointer},
+    {"speech", "speech on|off", 1, 1, false, speech},
     {"reset", "reset", 0, 0, false, reset},
     {"echo", "echo TEXT", 0, anyNumber, false, echo},
 }};

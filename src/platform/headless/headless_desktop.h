@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -43,6 +44,8 @@ class HeadlessDesktop : public Desktop {
 
   /// A program is attached and has not ended.
   [[nodiscard]] bool running() const { return running_; }
+  /// The window that has the keyboard; null for none.
+  [[nodiscard]] Form* activeForm() const { return visible_.empty() ? nullptr : visible_.back(); }
   /// The control that would receive a key; null for none.
   [[nodiscard]] Control* focus() const;
 
@@ -54,7 +57,7 @@ class HeadlessDesktop : public Desktop {
   void messageBox(std::string_view text) override { tell("message", text); }
   void reportError(std::string_view text) override { tell("error", text); }
   void end() override;
-  [[nodiscard]] bool speaks() const override { return false; }
+  [[nodiscard]] bool speaks() const override { return world.speaks; }
   [[nodiscard]] int screenHeight() const override { return world.screenHeight; }
   [[nodiscard]] int twipsPerPixel() const override { return world.twipsPerPixel; }
   void movePointer(int x, int y) override;
@@ -77,14 +80,16 @@ class HeadlessDesktop : public Desktop {
   [[nodiscard]] Attempt reach(const Form& form) const;
   [[nodiscard]] Attempt reach(const Form& form, const Control& control) const;
   [[nodiscard]] Form* formOf(const Control& control) const;
-  [[nodiscard]] Form* activeForm() const { return visible_.empty() ? nullptr : visible_.back(); }
   void activate(Form& form);
+  /// What the windows say that was not heard yet.
+  void hear();
   void tell(const char* what, std::string_view text) const;
 
   Sink sink_;
   std::function<void(const Event&)> handler_;
   std::vector<Form*> forms_;
-  std::vector<Form*> visible_;  ///< the active window last
+  std::map<const Form*, int> heard_;  ///< how often each was heard to tell news
+  std::vector<Form*> visible_;        ///< the active window last
   SeededRandom random_;
   bool running_ = false;
 };
