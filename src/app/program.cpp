@@ -1,6 +1,5 @@
 #include "app/program.h"
 
-#include <array>
 #include <functional>
 
 #include "play/about.h"
@@ -21,105 +20,96 @@ namespace mevracard {
 
 namespace {
 
-using Handler = void (*)(MainWindow&, const Event&);
+using enum EventKind;
+using Step = void (*)(MainWindow& w);
 
-/// A step that needs nothing of the event.
-template <void (*run)(MainWindow&)>
-void step(MainWindow& w, const Event& /*event*/) {
-  run(w);
-}
+/// Holds an event against one thing after the other and runs the step of the one it came from.
+struct On {
+  MainWindow& w;
+  const Event& event;
 
-void onCard(MainWindow& w, const Event& event) { doubleClickCard(w, event.control->index); }
-
-void onScroll(MainWindow& w, const Event& event) { scrollScreenSize(w, event.value); }
-
-/// Enter or Space on the key button of the choice: nothing while it is open, else Discard.
-void pressChoiceKeys(MainWindow& w) {
-  if (!w.state.choiceOpen) pressDiscard(w);
-}
-
-/// One row: an event on the thing of this name, and what answers it.
-struct Row {
-  EventKind kind;
-  std::string_view name;
-  Handler handler;
+  void operator()(EventKind kind, const Form& form, Step step) const {
+    if (event.kind == kind && event.form == &form) step(w);
+  }
+  void operator()(EventKind kind, const Control& control, Step step) const {
+    if (event.kind == kind && event.control == &control) step(w);
+  }
+  void operator()(const MenuEntry& entry, Step step) const {
+    if (event.entry == &entry) step(w);
+  }
 };
 
-constexpr std::array eventTable{
-    Row{EventKind::Tick, "mevraku", step<tick>},
-    Row{EventKind::DoubleClick, "k", onCard},
-    Row{EventKind::DoubleClick, "a", onCard},
-    Row{EventKind::DoubleClick, "b", onCard},
-    Row{EventKind::Click, "mulai", step<pressDiscard>},
-    Row{EventKind::Click, "hilang", step<pressChoiceKeys>},
-    Row{EventKind::Click, "kiri", step<chooseLeftBottom>},
-    Row{EventKind::Click, "kanan", step<chooseRightTop>},
-    Row{EventKind::Click, "canc", step<cancelChoice>},
-    Row{EventKind::Click, "ctrcom", step<acknowledgePass>},
-    Row{EventKind::Click, "Label1", step<openHomepage>},
-    Row{EventKind::Click, "tutuprec", step<closeStatistics>},
-    Row{EventKind::Click, "hapusrec", step<clearStatistics>},
-    Row{EventKind::Click, "cmdscreen", step<closeSizePanel>},
-    Row{EventKind::Scroll, "scrctrl", onScroll},
-    Row{EventKind::MouseDown, "cmdHow", step<mouseDownOnNext>},
-    Row{EventKind::Click, "cmdHow", step<pressNext>},
-    Row{EventKind::Click, "cmdCL", step<stopTutorial>},
-    Row{EventKind::Menu, "pl1", step<choosePlayerLevel1>},
-    Row{EventKind::Menu, "pl2", step<choosePlayerLevel2>},
-    Row{EventKind::Menu, "cl1", step<chooseComputerLevel1>},
-    Row{EventKind::Menu, "cl2", step<chooseComputerLevel2>},
-    Row{EventKind::Menu, "rg", step<chooseNewGame>},
-    Row{EventKind::Menu, "stat", step<openStatistics>},
-    Row{EventKind::Menu, "exit", step<chooseExit>},
-    Row{EventKind::Menu, "author", step<showAbout>},
-    Row{EventKind::Menu, "tips", step<openTips>},
-    Row{EventKind::Menu, "go", step<openHomepage>},
-    Row{EventKind::Menu, "rufoxx", step<openSizePanel>},
-    Row{EventKind::Menu, "scr", step<openSizePanel>},
-    Row{EventKind::Menu, "how", step<startTutorial>},
-    Row{EventKind::Close, "mevraku", step<chooseExit>},
-    Row{EventKind::Close, "authormevra", step<closeAbout>},
-    Row{EventKind::Close, "kalahmenang", step<closeStatistics>},
-    Row{EventKind::SystemEnd, "mevraku", step<endBySystem>},
-};
-
-std::string_view nameOf(const Event& event) {
-  if (event.control != nullptr) return event.control->name;
-  return event.entry != nullptr ? event.entry->name : event.form->name;
-}
-
-/// A label answers a click only if it is the link; others share its name.
-bool isPlainLabel(const Control* control) {
-  return control != nullptr && control->kind == ControlKind::Label &&
-         !static_cast<const Label*>(control)->link;
-}
-
-/// Keys of the main window: the choice takes its own, Esc cancels it wherever the focus is, and
-/// the keys of the player's turn that the focused control has no use for go to the Discard button,
-/// which takes none while it is hidden.
-void pressKey(MainWindow& w, const Event& event) {
-  const int key = event.value;
-  if (w.state.choiceOpen && (event.control == &w.choice.keys || key == keyEscape)) {
-    pressKeyOfChoice(w, key);
-  } else if (key == keyEnter || key == keySpace) {
-    pressDiscard(w);
-  } else if (w.discard.usable() && (event.control == &w.discard || key == 'p' || key == 'P')) {
-    pressKeyOnDiscard(w, key);
+/// Anywhere on a card: its numbers answer as its frame.
+void onCards(const On& on) {
+  if (on.event.kind != DoubleClick) return;
+  const Control* control = on.event.control;
+  if (control->parent != nullptr) control = control->parent;
+  for (const int slot : allSlots) {
+    if (control == &on.w.card(slot).frame) doubleClickCard(on.w, slot);
   }
 }
 
-void dispatch(MainWindow& w, const Event& event) {
-  if (event.kind == EventKind::KeyPress) {
-    if (event.form == &w.form) pressKey(w, event);
-    return;
+void onTable(const On& on) {
+  MainWindow& w = on.w;
+  const Event& event = on.event;
+  on(Tick, w.form, tick);
+  onCards(on);
+  on(Click, w.discard, pressDiscard);
+  on(Click, w.choice.keys, pressDiscardUnlessAsked);
+  on(Click, w.choice.leftBottom, chooseLeftBottom);
+  on(Click, w.choice.rightTop, chooseRightTop);
+  on(Click, w.choice.cancel, cancelChoice);
+  if (event.kind == KeyPress && event.form == &w.form) pressKey(w, *event.control, event.value);
+  on(Close, w.form, chooseExit);
+  on(SystemEnd, w.form, endBySystem);
+}
+
+void onPanels(const On& on) {
+  MainWindow& w = on.w;
+  on(MouseDown, w.tutorial.next, mouseDownOnNext);
+  on(Click, w.tutorial.next, pressNext);
+  on(Click, w.tutorial.stop, stopTutorial);
+  if (on.event.control == &w.sizePanel.bar && on.event.kind == Scroll) {
+    scrollScreenSize(w, on.event.value);
   }
-  if (event.kind == EventKind::Click && isPlainLabel(event.control)) return;
-  const std::string_view name = nameOf(event);
-  for (const Row& row : eventTable) {
-    if (row.kind != event.kind || row.name != name) continue;
-    row.handler(w, event);
-    return;
-  }
+  on(Click, w.sizePanel.ok, closeSizePanel);
+}
+
+void onOtherWindows(const On& on) {
+  MainWindow& w = on.w;
+  on(Click, w.about.link, openHomepage);
+  on(Click, w.about.ok, acknowledgePass);
+  on(Close, w.about.form, closeAbout);
+  on(Click, w.statistics.ok, closeStatistics);
+  on(Click, w.statistics.clear, clearStatistics);
+  on(Close, w.statistics.form, closeStatistics);
+}
+
+void onMenu(const On& on) {
+  const MenuEntries& menu = on.w.menu;
+  on(menu.playerLevel1, choosePlayerLevel1);
+  on(menu.playerLevel2, choosePlayerLevel2);
+  on(menu.computerLevel1, chooseComputerLevel1);
+  on(menu.computerLevel2, chooseComputerLevel2);
+  on(menu.newGame, chooseNewGame);
+  on(menu.statistics, openStatistics);
+  on(menu.exit, chooseExit);
+  on(menu.about, showAbout);
+  on(menu.tips, openTips);
+  on(menu.homepage, openHomepage);
+  on(menu.helpScreenOption, openSizePanel);
+  on(menu.screenOption, openSizePanel);
+  on(menu.howToPlay, startTutorial);
+}
+
+/// Every event that means something, in four lists: the table, its panels, the other windows, the
+/// menu.
+void answer(MainWindow& w, const Event& event) {
+  const On on{w, event};
+  onTable(on);
+  onPanels(on);
+  onOtherWindows(on);
+  onMenu(on);
 }
 
 }  // namespace
@@ -134,7 +124,7 @@ void Program::start() {
 }
 
 void Program::handle(const Event& event) {
-  run([this, &event] { dispatch(window_, event); });
+  run([this, &event] { answer(window_, event); });
 }
 
 void Program::run(const std::function<void()>& doing) {

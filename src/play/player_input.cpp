@@ -1,10 +1,12 @@
 #include "play/player_input.h"
 
 #include "game/rules.h"
+#include "platform/event.h"
 #include "play/choice.h"
 #include "play/ending.h"
 #include "play/new_game.h"
 #include "play/placement.h"
+#include "play/same_number_choice.h"
 #include "play/size_panel.h"
 #include "play/status.h"
 #include "play/tips.h"
@@ -77,6 +79,15 @@ int nextSelection(const GameState& s) {
   return card;
 }
 
+/// With the choice at once, where the card makes the same number.
+void selectNextCard(MainWindow& w) {
+  GameState& s = w.state;
+  w.card(s.selectedCard).paintNumbers(handColour);
+  s.selectedCard = nextSelection(s);
+  w.card(s.selectedCard).paintNumbers(selectionColour);
+  if (offersChoice(s, s.selectedCard)) openChoice(w, s.selectedCard);
+}
+
 }  // namespace
 
 void doubleClickCard(MainWindow& w, int card) {
@@ -99,16 +110,6 @@ void doubleClickCard(MainWindow& w, int card) {
   s.selectedCard = noSelection;
 }
 
-void pressKeyOnDiscard(MainWindow& w, int key) {
-  closePanelIfOpen(w);
-  if ((key != 'p' && key != 'P') || !gameTakesCards(w)) return;
-  GameState& s = w.state;
-  w.card(s.selectedCard).paintNumbers(handColour);
-  s.selectedCard = nextSelection(s);
-  w.card(s.selectedCard).paintNumbers(selectionColour);
-  if (offersChoice(s, s.selectedCard)) openChoice(w, s.selectedCard);
-}
-
 void pressDiscard(MainWindow& w) {
   GameState& s = w.state;
   closePanelIfOpen(w);
@@ -127,6 +128,22 @@ void pressDiscard(MainWindow& w) {
     }
   }
   s.cardWasLaid = false;
+}
+
+void pressDiscardUnlessAsked(MainWindow& w) {
+  if (!w.state.choiceOpen) pressDiscard(w);
+}
+
+void pressKey(MainWindow& w, const Control& focused, int key) {
+  const bool selects = key == 'p' || key == 'P';
+  if (w.state.choiceOpen && (&focused == &w.choice.keys || key == keyEscape)) {
+    answerByKey(w, key);
+  } else if (key == keyEnter || key == keySpace) {
+    pressDiscard(w);
+  } else if (w.discard.usable() && (&focused == &w.discard || selects)) {
+    closePanelIfOpen(w);
+    if (selects && gameTakesCards(w)) selectNextCard(w);
+  }
 }
 
 }  // namespace mevracard

@@ -38,9 +38,7 @@ void cancelChoice(MainWindow& w) {
   announce(w, Announcement::YourTurn);
 }
 
-void pressKeyOfChoice(MainWindow& w, int key) {
-  // The button can hold the focus after the choice has closed; its keys then mean nothing.
-  if (!w.state.choiceOpen) return;
+void answerByKey(MainWindow& w, int key) {
   if (key == keyEscape) {
     cancelChoice(w);
   } else if (key == digitKey(w.state.openNumber[End::RightTop])) {

@@ -10,7 +10,7 @@ void chooseLeftBottom(MainWindow& w);
 void chooseRightTop(MainWindow& w);
 /// Cancel: the card stays in the hand.
 void cancelChoice(MainWindow& w);
-/// A key during the choice: Esc cancels, the digit of an active number presses its button.
-void pressKeyOfChoice(MainWindow& w, int key);
+/// A key while the choice is open: Esc cancels, the digit of an active number presses its button.
+void answerByKey(MainWindow& w, int key);
 
 }  // namespace mevracard
