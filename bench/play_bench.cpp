@@ -6,7 +6,7 @@
 
 #include "game/rules.h"
 #include "play/computer_turn.h"
-#include "play/screen_scale.h"
+#include "play/table_size.h"
 #include "simulate/game.h"
 #include "simulate/table.h"
 
@@ -52,12 +52,12 @@ void computersTurn(benchmark::State& run) {
 }
 BENCHMARK(computersTurn)->ArgName("level")->Arg(1)->Arg(2)->Unit(benchmark::kMicrosecond);
 
-/// One step of the screen size there and back: what the program does, without painting.
+/// One step of the table size there and back: what the program does, without painting.
 void screenScale(benchmark::State& run) {
   Table table({}, 0);
   MainWindow& w = table.window();
   for (auto _ : run) {
-    scrollScreenSize(w, w.sizePanel.bar.value == 99 ? 98 : 99);
+    scrollTableSize(w, w.sizePanel.bar.value == 99 ? 98 : 99);
     w.present();
   }
 }

@@ -127,7 +127,7 @@ class Session {
   }
 
   void posePanel() {
-    choose(w_.menu.screenOption);
+    choose(w_.menu.tableSize);
     shoot("panel");
     send({EventKind::Scroll, &w_.form, &w_.sizePanel.bar, nullptr, 70});
     shoot("smallest");

@@ -9,9 +9,9 @@
 #include "play/passing.h"
 #include "play/player_input.h"
 #include "play/same_number_choice.h"
-#include "play/screen_scale.h"
 #include "play/size_panel.h"
 #include "play/statistics.h"
+#include "play/table_size.h"
 #include "play/tips.h"
 #include "play/turn_driver.h"
 #include "play/tutorial.h"
@@ -70,7 +70,7 @@ void onPanels(const On& on) {
   on(Click, w.tutorial.next, pressNext);
   on(Click, w.tutorial.stop, stopTutorial);
   if (on.event.control == &w.sizePanel.bar && on.event.kind == Scroll) {
-    scrollScreenSize(w, on.event.value);
+    scrollTableSize(w, on.event.value);
   }
   on(Click, w.sizePanel.ok, closeSizePanel);
 }
@@ -97,8 +97,8 @@ void onMenu(const On& on) {
   on(menu.about, showAbout);
   on(menu.tips, openTips);
   on(menu.homepage, openHomepage);
-  on(menu.helpScreenOption, openSizePanel);
-  on(menu.screenOption, openSizePanel);
+  on(menu.helpTableSize, openSizePanel);
+  on(menu.tableSize, openSizePanel);
   on(menu.howToPlay, startTutorial);
 }
 

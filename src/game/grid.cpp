@@ -2,8 +2,8 @@
 
 namespace mevracard {
 
-double scaleOf(int screenValue, int screenHeight) {
-  return screenValue / 99.0 * 0.96 * screenHeight / 11520.0;
+double scaleOf(int tableSize, int screenHeight) {
+  return static_cast<double>(tableSize) / largestTableSize * 0.96 * screenHeight / 11520.0;
 }
 
 GridPoint handPlace(int slot) {

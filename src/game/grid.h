@@ -15,9 +15,9 @@ struct GridPoint {
 /// Place of the 0-0.
 constexpr int openingPosition = 6;
 
-/// Factor between design twips and the table for a screen size (70 to 99; 100 before settings are
-/// read) and a screen height in twips: 0.96 for size 99 on a screen 11520 twips high.
-[[nodiscard]] double scaleOf(int screenValue, int screenHeight);
+/// Factor between design twips and the table for a table size and a screen height in twips: 0.96
+/// for the largest size on a screen 11520 twips high.
+[[nodiscard]] double scaleOf(int tableSize, int screenHeight);
 
 /// A card's place in its owner's hand row.
 [[nodiscard]] GridPoint handPlace(int slot);

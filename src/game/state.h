@@ -13,7 +13,8 @@ constexpr int cardCount = 28;
 constexpr int handSize = 14;     ///< slots 0 to 13 are the player's, 14 to 27 the computer's
 constexpr int noSelection = 15;  ///< `selectedCard`: none; never a slot of the player's
 constexpr int noNumber = 7;      ///< `bannedNumber`, `danger`, `secondDanger`: none
-constexpr int designScreenValue = 100;
+constexpr int smallestTableSize = 70, largestTableSize = 99;  ///< what the player can choose
+constexpr int designTableSize = 100;                          ///< until the settings are read
 
 /// The two ends of the chain. Right/Top grows up and right, Left/Bottom down and left.
 enum class End { RightTop, LeftBottom };
@@ -138,7 +139,7 @@ struct GameState {
   // What the player is asked and told.
   bool choiceOpen = false;     ///< the same-number choice waits for an answer
   bool passAwaitsOk = false;   ///< the player's pass was announced and waits for its OK
-  bool sizePanelOpen = false;  ///< the screen-size panel is on the table
+  bool sizePanelOpen = false;  ///< the size panel is on the table
   Announcement announcement = Announcement::None;
   std::string tipText = "0";  ///< the current situation tip, lines end with a carriage return
 
@@ -159,7 +160,7 @@ struct GameState {
   bool newGameAsked = false;  ///< since the start; the first deal sizes the table
   int screenHeight = 0;       ///< twips
   int twipsPerPixel = 15;
-  int screenValue = designScreenValue;  ///< screen size in force, 70 to 99 but for the design value
+  int tableSize = designTableSize;  ///< in force
 
   [[nodiscard]] std::span<const LaidCard> laidCards() const {
     return std::span(laid).first(static_cast<std::size_t>(laidCount));

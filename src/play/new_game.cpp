@@ -7,7 +7,7 @@
 #include "play/passing.h"
 #include "play/placement.h"
 #include "play/saved_settings.h"
-#include "play/screen_scale.h"
+#include "play/table_size.h"
 #include "play/tutorial_end.h"
 #include "texts/messages.h"
 #include "ui/colors.h"
@@ -123,11 +123,11 @@ void deal(MainWindow& w) {
   GameState& s = w.state;
   dropGameBefore(w);
   const bool firstDeal = !s.newGameAsked;
-  const double scale = firstDeal ? 1.0 : w.scaleFactor();
+  const double scale = firstDeal ? 1.0 : w.scale();
   seedRandom(w);
   clearTable(w, scale);
   layOutHands(w, scale);
-  if (firstDeal) rescaleTable(w, w.scaleFactor());
+  if (firstDeal) rescaleTable(w, w.scale());
   coverComputersHand(w);
   w.say(openingMessage);
   showCards(w, true);

@@ -27,7 +27,7 @@ void layDoubleZero(MainWindow& w, int slot) {
   // the player's hand fits none of that game's last numbers. One would expect a glide to the
   // centre; the player sees the 0-0 jump there from elsewhere. Meant.
   glideCard(w);
-  putAt(w.card(slot).frame, chainPlace(End::RightTop, openingPosition, 0), w.scaleFactor());
+  putAt(w.card(slot).frame, chainPlace(End::RightTop, openingPosition, 0), w.scale());
   w.card(slot).paintNumbers(handColour);
   w.card(slot).uncover();
   openChain(s, slot);

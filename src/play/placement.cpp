@@ -25,10 +25,10 @@ void layAt(MainWindow& w, int slot, End end) {
     w.form.sendToBack(card.frame);
   }
   if (const auto move = markerMoveOf(end, s.laidAt[end])) {
-    putAt(w.table.markers[move->marker], move->place, w.scaleFactor());
+    putAt(w.table.markers[move->marker], move->place, w.scale());
   }
   glideCard(w);
-  putAt(card.frame, chainPlace(end, laying.position, laying.column), w.scaleFactor());
+  putAt(card.frame, chainPlace(end, laying.position, laying.column), w.scale());
 }
 
 }  // namespace
@@ -61,7 +61,7 @@ void glideCard(MainWindow& w) {
   // QUIRK-05: the target is the Right/Top side for both ends. One would expect the card's own side;
   // the player sees a Left/Bottom card fly to the mirror column and jump across. Meant.
   const GridPoint target = chainPlace(End::RightTop, s.layPosition, s.layColumn);
-  const double scale = w.scaleFactor();
+  const double scale = w.scale();
   const double left0 = frame.left;
   const double top0 = frame.top;
   const double distance = target.left * scale - left0;

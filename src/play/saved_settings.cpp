@@ -1,6 +1,6 @@
 #include "play/saved_settings.h"
 
-#include "play/screen_scale.h"
+#include "play/table_size.h"
 #include "store/settings.h"
 #include "store/statistics.h"
 
@@ -23,7 +23,7 @@ void takeSettings(MainWindow& w, const SavedSettings& saved) {
   w.state.savedLevels = {saved.playerLevel, saved.computerLevel};
   w.state.playerLevel = saved.playerLevel;
   w.state.computerLevel = saved.computerLevel;
-  takeScreenValue(w, saved.screenValue);
+  takeTableSize(w, saved.tableSize);
 }
 
 void makeFilesAnew(MainWindow& w) {
@@ -66,7 +66,7 @@ void loadSettings(MainWindow& w) {
 void saveSettings(MainWindow& w) { saveSettings(w, w.state.savedLevels); }
 
 void saveSettings(MainWindow& w, const SavedLevels& levels) {
-  w.desktop.writeFile(settingsFile, settingsText(levels, w.state.screenValue));
+  w.desktop.writeFile(settingsFile, settingsText(levels, w.state.tableSize));
 }
 
 }  // namespace mevracard

@@ -4,12 +4,12 @@
 
 namespace mevracard {
 
-/// Takes both levels and the screen size from the settings file. If either data file cannot be
-/// read, or the screen size is none that the control takes, both files are made anew with their
+/// Takes both levels and the table size from the settings file. If either data file cannot be
+/// read, or the table size is none that the player can choose, both files are made anew with their
 /// defaults and both levels are 1; a default that cannot be written is reported to the player.
 void loadSettings(MainWindow& w);
 
-/// Writes the levels of the file and the screen size in force. Throws PlatformError; the old file
+/// Writes the levels of the file and the table size in force. Throws PlatformError; the old file
 /// is then untouched.
 void saveSettings(MainWindow& w);
 /// The same with other levels, which the game takes when it loads the settings again.

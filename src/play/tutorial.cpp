@@ -75,9 +75,9 @@ void startTutorial(MainWindow& w) {
   s.demo.busy = false;
   w.tutorial.show(true);
   startAnotherGame(w);
-  w.menu.screenOption.enabled = false;
+  w.menu.tableSize.enabled = false;
   w.menu.file.enabled = false;
-  w.menu.helpScreenOption.enabled = false;
+  w.menu.helpTableSize.enabled = false;
 }
 
 void pressNext(MainWindow& w) {

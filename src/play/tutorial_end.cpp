@@ -13,11 +13,11 @@ void endTutorial(MainWindow& w) {
   // A move that was being demonstrated must not keep the next tutorial waiting for its end.
   w.state.demo.busy = false;
   w.tutorial.show(false);
-  // QUIRK-29: `helpScreenOption` is not among them. One would expect every entry back; the player
+  // QUIRK-29: `helpTableSize` is not among them. One would expect every entry back; the player
   // finds Help's "ScreenOption" greyed until the next start, the one in the menu bar works. Meant.
   w.menu.howToPlay.enabled = true;
   w.menu.file.enabled = true;
-  w.menu.screenOption.enabled = true;
+  w.menu.tableSize.enabled = true;
 }
 
 }  // namespace mevracard

@@ -6,8 +6,6 @@ namespace mevracard {
 
 namespace {
 
-constexpr int smallestScreen = 70, largestScreen = 99;
-
 std::string fieldText(std::optional<int> level) { return level ? std::to_string(*level) : ""; }
 
 /// QUIRK-25: anything but "1" is level 2, a missing character included. One would expect bad fields
@@ -18,21 +16,21 @@ int levelAt(std::string_view text, std::size_t index) {
 
 }  // namespace
 
-std::string settingsText(const SavedLevels& levels, int screenValue) {
+std::string settingsText(const SavedLevels& levels, int tableSize) {
   return fieldText(levels.player) + "/" + fieldText(levels.computer) + "/" +
-         std::to_string(screenValue) + "\r\n";
+         std::to_string(tableSize) + "\r\n";
 }
 
-std::string defaultSettingsText() { return settingsText({1, 1}, 99); }
+std::string defaultSettingsText() { return settingsText({1, 1}, largestTableSize); }
 
 std::optional<SavedSettings> parseSettings(std::string_view text) {
   // QUIRK-26: two digits are read, whatever follows. One would expect three to be refused; 855
   // counts as 85, and 100 as 10, which is no size. Meant.
   const auto firstSix = text.substr(0, 6);
   const auto size = firstSix.substr(firstSix.size() < 2 ? 0 : firstSix.size() - 2);
-  const double screenValue = leadingNumber(size);
-  if (screenValue < smallestScreen || screenValue > largestScreen) return std::nullopt;
-  return SavedSettings{levelAt(text, 0), levelAt(text, 2), static_cast<int>(screenValue)};
+  const double tableSize = leadingNumber(size);
+  if (tableSize < smallestTableSize || tableSize > largestTableSize) return std::nullopt;
+  return SavedSettings{levelAt(text, 0), levelAt(text, 2), static_cast<int>(tableSize)};
 }
 
 }  // namespace mevracard

@@ -48,7 +48,7 @@ void Tutorial::show(bool running) {
 }
 
 void SizePanel::show(bool open) {
-  for (Control* control : std::initializer_list<Control*>{&heading, &ground, &scale, &bar, &ok}) {
+  for (Control* control : std::initializer_list<Control*>{&heading, &ground, &limits, &bar, &ok}) {
     control->visible = open;
   }
   for (Shape& box : monitorBoxes) box.visible = open;

@@ -77,7 +77,7 @@ struct Tutorial {
 
 /// The panel "SCREEN CONTROL".
 struct SizePanel {
-  Label heading, ground, scale;
+  Label heading, ground, limits;
   ScrollBar bar;
   Button ok;
   std::array<Shape, 3> monitorBoxes;  ///< the monitor's screen, its case, a smaller screen
@@ -90,8 +90,8 @@ struct SizePanel {
 struct MenuEntries {
   MenuEntry file, playerLevel, playerLevel1, playerLevel2, computerLevel, computerLevel1,
       computerLevel2, newGame, statistics, exit;
-  MenuEntry help, about, tips, homepage, helpScreenOption;
-  MenuEntry screenOption, howToPlay;
+  MenuEntry help, about, tips, homepage, helpTableSize;
+  MenuEntry tableSize, howToPlay;
 };
 
 }  // namespace mevracard

@@ -19,7 +19,7 @@ MainWindow::MainWindow(Desktop& d) : desktop(d) {
   designMenu();
 }
 
-double MainWindow::scaleFactor() const { return scaleOf(state.screenValue, state.screenHeight); }
+double MainWindow::scale() const { return scaleOf(state.tableSize, state.screenHeight); }
 
 void MainWindow::keepAboutClear() {
   Form& window = about.form;

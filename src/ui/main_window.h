@@ -44,7 +44,7 @@ struct MainWindow {
   /// The card of a slot, 0 to 27; anything else is a std::out_of_range.
   [[nodiscard]] CardControls& card(int slot) { return cards.at(static_cast<std::size_t>(slot)); }
   /// The factor between design twips and the table in force.
-  [[nodiscard]] double scaleFactor() const;
+  [[nodiscard]] double scale() const;
 
   /// The About window is to open where it hides neither the chain nor the buttons of the choice.
   void keepAboutClear();

@@ -119,11 +119,11 @@ void designTutorial(Tutorial& tutorial) {
 void designSizePanel(SizePanel& panel) {
   design(panel.heading, { 600, 1800, 2055,  975}, "SCREEN CONTROL", panelHeading);
   design(panel.ground,  { 600, 2760, 2055, 1935}, "", panelGround);
-  design(panel.scale,   { 720, 2280, 1695,  375}, "    Min                 Max      ", panelScale);
+  design(panel.limits,  { 720, 2280, 1695,  375}, "    Min                 Max      ", panelScale);
   place(panel.bar,      { 840, 2040, 1575,  255});
-  panel.bar.minimum = 70;
-  panel.bar.maximum = 99;
-  panel.bar.value = 99;
+  panel.bar.minimum = smallestTableSize;
+  panel.bar.maximum = largestTableSize;
+  panel.bar.value = largestTableSize;
   panel.bar.spoken = "Size of the table";
   design(panel.ok,      {1320, 2640,  615,  255}, "OK");
 
@@ -221,7 +221,7 @@ void addTutorial(Form& form, Tutorial& tutorial) {
 void addSizePanel(Form& form, SizePanel& panel) {
   addPanel(form, panel.ground, "gambarscr");
   addPanel(form, panel.heading, "ScreenControl");
-  addPanel(form, panel.scale, "MinMax");
+  addPanel(form, panel.limits, "MinMax");
   addPanel(form, panel.bar, "scrctrl");
   addPanel(form, panel.ok, "cmdscreen");
   addPanel(form, panel.monitorBoxes[0], "mnt1");
@@ -294,8 +294,8 @@ void MainWindow::designMenu() {
   m.about            = {"author", "&About"};
   m.tips             = {"tips",   "&Tips of Game"};
   m.homepage         = {"go",     "&Go to Homepage"};
-  m.helpScreenOption = {"rufoxx", "Screen&Option"};
-  m.screenOption     = {"scr",    "Screen&Option"};
+  m.helpTableSize    = {"rufoxx", "Screen&Option"};
+  m.tableSize        = {"scr",    "Screen&Option"};
   m.howToPlay        = {"how",    "HowTo&Play"};
   // clang-format on
   m.playerLevel1.checked = true;
@@ -304,8 +304,8 @@ void MainWindow::designMenu() {
   link(m.playerLevel, {&m.playerLevel1, &m.playerLevel2});
   link(m.computerLevel, {&m.computerLevel1, &m.computerLevel2});
   link(m.file, {&m.playerLevel, &m.computerLevel, &m.newGame, &m.statistics, &m.exit});
-  link(m.help, {&m.about, &m.tips, &m.homepage, &m.helpScreenOption});
-  form.menu = {&m.file, &m.help, &m.screenOption, &m.howToPlay};
+  link(m.help, {&m.about, &m.tips, &m.homepage, &m.helpTableSize});
+  form.menu = {&m.file, &m.help, &m.tableSize, &m.howToPlay};
 }
 
 }  // namespace mevracard

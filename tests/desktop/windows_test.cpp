@@ -1,4 +1,4 @@
-// Menus, the other windows and the screen size, as they stand on the screen.
+// Menus, the other windows and the table size, as they stand on the screen.
 #include <QApplication>
 #include <QPixmap>
 #include <QScreen>

@@ -37,7 +37,7 @@ struct Game {
   [[nodiscard]] std::string choices() const {
     return settingsText(
         {w.menu.playerLevel1.checked ? 1 : 2, w.menu.computerLevel1.checked ? 1 : 2},
-        w.state.screenValue);
+        w.state.tableSize);
   }
   void checkNextStart() const {
     demand(Game(desktop.world.files).choices() == choices(), "the next start finds the settings");

@@ -47,7 +47,7 @@ TEST(Settings, AreReadByPosition) {
     if (!settings) continue;
     EXPECT_EQ(settings->playerLevel, row.player);
     EXPECT_EQ(settings->computerLevel, row.computer);
-    EXPECT_EQ(settings->screenValue, row.screen);
+    EXPECT_EQ(settings->tableSize, row.screen);
   }
   EXPECT_EQ(settingsText({2, std::nullopt}, 100), "2//100\r\n");
 }

@@ -10,7 +10,7 @@
 #include "play/computer_turn.h"
 #include "play/opening.h"
 #include "play/placement.h"
-#include "play/screen_scale.h"
+#include "play/table_size.h"
 
 namespace mevracard {
 namespace {
@@ -145,7 +145,7 @@ TEST(Windows, ShowTheRightThingsBehindMessages) {
   MainWindow& w = program.window();
   window = &w;
   program.start();
-  desktop.menu(w.menu.screenOption);
+  desktop.menu(w.menu.tableSize);
   EXPECT_EQ(cardsBehindStatus(w), 0);
   w.form.sendToBack(w.cards[0].frame);  // behind the cards, not behind the table
   EXPECT_EQ(w.form.controls.front(), &w.status);
@@ -153,7 +153,7 @@ TEST(Windows, ShowTheRightThingsBehindMessages) {
   EXPECT_EQ(cardsBehindStatus(w), cardCount);
   EXPECT_EQ(hands, (std::vector{true, true, false}));
 
-  desktop.menu(w.menu.screenOption);
+  desktop.menu(w.menu.tableSize);
   for (const int slot : handOf(Side::Computer)) w.state.card(slot).held = false;
   Card& card = w.state.card(0);
   card.held = true;

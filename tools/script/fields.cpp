@@ -76,7 +76,7 @@ constexpr std::array fields{
     Field{"firstDealDone", [](S& s, int) -> Place { return LateFlag{&s.newGameAsked}; }},
     Field{"screenHeight", [](S& s, int) -> Place { return &s.screenHeight; }},
     Field{"twipsPerPixel", [](S& s, int) -> Place { return &s.twipsPerPixel; }},
-    Field{"screenValue", [](S& s, int) -> Place { return &s.screenValue; }},
+    Field{"screenValue", [](S& s, int) -> Place { return &s.tableSize; }},
 };
 // clang-format on
 
@@ -131,7 +131,7 @@ struct Writer {
 }  // namespace
 
 std::optional<std::string> fieldText(MainWindow& w, std::string_view name) {
-  if (name == "scaleFactor") return decimalText(w.scaleFactor());
+  if (name == "scaleFactor") return decimalText(w.scale());
   const auto found = find(w.state, name);
   if (!found) return std::nullopt;
   return std::visit(TextOf{}, found->place);

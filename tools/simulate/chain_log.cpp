@@ -11,7 +11,7 @@ namespace {
 /// The card on the table whose frame stands at the n-th place of an end.
 int slotAt(const MainWindow& w, GridPoint place) {
   Frame wanted;
-  putAt(wanted, place, w.scaleFactor());
+  putAt(wanted, place, w.scale());
   for (const int slot : allSlots) {
     const Frame& frame = w.cards[static_cast<std::size_t>(slot)].frame;
     if (!w.state.card(slot).held && frame.left == wanted.left && frame.top == wanted.top) {

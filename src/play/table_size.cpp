@@ -1,4 +1,4 @@
-#include "play/screen_scale.h"
+#include "play/table_size.h"
 
 #include <cmath>
 #include <limits>
@@ -80,7 +80,7 @@ void scaleChoice(Choice& choice, const Scaler& by) {
   for (auto& arrow : choice.arrows) by.line(arrow);
 }
 
-/// The tutorial and the screen-size panel keep their size.
+/// The tutorial and the size panel keep their size.
 void scaleControls(MainWindow& w, const Scaler& by) {
   by.place(w.table.whole);
   scaleTable(w.table, by);
@@ -124,24 +124,24 @@ void rescaleTable(MainWindow& w, double factor) {
   showTable(w);
 }
 
-void scrollScreenSize(MainWindow& w, int screenValue) {
+void scrollTableSize(MainWindow& w, int tableSize) {
   GameState& s = w.state;
-  w.sizePanel.bar.value = screenValue;
+  w.sizePanel.bar.value = tableSize;
   // Without a size before there is no ratio; the number that stands in its place is the card last
   // played, as for every factor that could not be worked out.
-  const double before = s.screenValue;
-  rescaleTable(w, before != 0 ? screenValue / before : s.playCard);
-  s.screenValue = screenValue;
+  const double before = s.tableSize;
+  rescaleTable(w, before != 0 ? tableSize / before : s.playCard);
+  s.tableSize = tableSize;
 }
 
-void takeScreenValue(MainWindow& w, int screenValue) {
+void takeTableSize(MainWindow& w, int tableSize) {
   // Before the first deal the table has its design size, and the deal applies the size. Later the
   // table follows at once, or hands and table would be of two sizes.
-  if (w.state.newGameAsked && w.state.screenValue != screenValue) {
-    scrollScreenSize(w, screenValue);
+  if (w.state.newGameAsked && w.state.tableSize != tableSize) {
+    scrollTableSize(w, tableSize);
   }
-  w.state.screenValue = screenValue;
-  w.sizePanel.bar.value = screenValue;
+  w.state.tableSize = tableSize;
+  w.sizePanel.bar.value = tableSize;
 }
 
 }  // namespace mevracard

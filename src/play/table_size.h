@@ -9,12 +9,12 @@ namespace mevracard {
 /// to single precision, border widths to whole pixels, half to even.
 void rescaleTable(MainWindow& w, double factor);
 
-/// The player moved the scroll bar to a new screen size: rescales the table relative to the size
+/// The player moved the scroll bar to a new table size: rescales the table relative to the size
 /// before.
-void scrollScreenSize(MainWindow& w, int screenValue);
+void scrollTableSize(MainWindow& w, int tableSize);
 
-/// A screen size (70 to 99) from the settings file: into the scroll bar and, once the table has
+/// A table size from the settings file: into the scroll bar and, once the table has
 /// been scaled by a first deal, onto the table.
-void takeScreenValue(MainWindow& w, int screenValue);
+void takeTableSize(MainWindow& w, int tableSize);
 
 }  // namespace mevracard
