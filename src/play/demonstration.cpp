@@ -1,5 +1,6 @@
 #include "play/demonstration.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "game/grid.h"
@@ -14,6 +15,9 @@ namespace mevracard {
 namespace {
 
 constexpr int glideInterval = 60;
+/// The pointer's way takes this long at most: its steps, of 10 pixels else, are longer on a screen
+/// where that would not do.
+constexpr int longestWay = 100;   // ticks
 constexpr double farAway = 5000;  ///< outside the window: the pointer vanishes there
 
 /// The window's mapping to the screen where it cannot be asked: twips to pixels of 15 twips. The
@@ -113,7 +117,7 @@ void demonstrate(MainWindow& w) {
   const auto [dx, dy] = demo.offset;
   const auto [x, y] = demo.start;
   const int i = ++demo.tick;
-  const int steps = wholeNumber(std::sqrt(dx * dx + dy * dy) / 10);
+  const int steps = std::min(wholeNumber(std::sqrt(dx * dx + dy * dy) / 10), longestWay);
   if (i <= steps) {
     movePointer(w, x + i * dx / steps, y + i * dy / steps);
   } else if (i < steps + 3 || i == steps + 4 || i == steps + 5) {
