@@ -137,6 +137,7 @@ struct GameState {
   int refusals = 0;                     ///< cards that the player wanted to lay and could not
 
   // What the player is asked and told.
+  bool takesCards = false;     ///< from a game's start to its end; a new table size gives it back
   bool choiceOpen = false;     ///< the same-number choice waits for an answer
   bool passAwaitsOk = false;   ///< the player's pass was announced and waits for its OK
   bool sizePanelOpen = false;  ///< the size panel is on the table

@@ -71,7 +71,7 @@ void showSums(MainWindow& w) {
 
 void showResult(MainWindow& w) {
   w.state.gameOver = true;
-  w.discard.visible = false;
+  w.state.takesCards = false;
   w.status.visible = false;
   w.result.show(true);
   for (const int slot : handOf(Side::Computer)) {

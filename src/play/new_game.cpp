@@ -105,8 +105,8 @@ void takeScreenMetrics(MainWindow& w) {
 void startGame(MainWindow& w) {
   takeScreenMetrics(w);
   w.state.gameOver = false;
-  w.discard.visible = true;  // for the keyboard alone
-  w.discard.width = 0;
+  w.state.takesCards = true;
+  w.discard.width = 0;  // it shows for the keyboard alone
   w.discard.height = 0;
   w.desktop.show(w.form);
   showCards(w, false);

@@ -4,7 +4,6 @@
 #include "platform/event.h"
 #include "play/choice.h"
 #include "play/ending.h"
-#include "play/new_game.h"
 #include "play/placement.h"
 #include "play/same_number_choice.h"
 #include "play/size_panel.h"
@@ -18,9 +17,9 @@ namespace mevracard {
 namespace {
 
 /// During the tutorial the player's cards are played by NEXT alone; after the end by nobody, also
-/// when a new table size has shown the Discard button again: that it shows is a rule of its own.
-bool gameTakesCards(const MainWindow& w) {
-  return w.discard.visible && !w.state.gameOver && !w.state.tutorial.running;
+/// when a new table size has shown the Discard button again.
+bool gameTakesCards(const GameState& s) {
+  return s.takesCards && !s.gameOver && !s.tutorial.running;
 }
 
 /// A card on the table is never played again, so the choice is for held ones only.
@@ -96,7 +95,7 @@ void doubleClickCard(MainWindow& w, int card) {
   // QUIRK-19: every double-click resets the tip, also one that does nothing else, as on a card of
   // the computer's or after the end. The player's tip then is a bare heading. Meant.
   resetTip(w);
-  if (!gameTakesCards(w) || ownerOf(card) == Side::Computer) return;
+  if (!gameTakesCards(s) || ownerOf(card) == Side::Computer) return;
   s.selectedCard = card;
   // QUIRK-14: the last card is laid without the choice, while 'p' opens it for the last card too.
   // One would expect the same of both. Meant.
@@ -113,20 +112,9 @@ void doubleClickCard(MainWindow& w, int card) {
 void pressDiscard(MainWindow& w) {
   GameState& s = w.state;
   closePanelIfOpen(w);
-  if (s.selectedCard != noSelection && gameTakesCards(w)) {
-    // QUIRK-17: without the exclamation mark, so that the open choice does not take this way. One
-    // would expect its text; Discard lays the selected card also while the choice is open. Meant.
-    // Here the texts that the player sees are the rule: that of the status line, and "Begin".
-    if (w.status.visible && w.status.caption == "'Mevra'   Choose One") {
-      w.status.visible = false;
-      w.choice.hideArrows();
-      s.playCard = s.selectedCard;
-    } else if (w.discard.caption != "Begin") {
-      laySelectedCard(w);
-    } else {
-      startGame(w);
-    }
-  }
+  // QUIRK-17: also while the choice is open. One would expect the choice to come first; Discard
+  // lays the selected card at the Right/Top end. Meant.
+  if (s.selectedCard != noSelection && gameTakesCards(s)) laySelectedCard(w);
   s.cardWasLaid = false;
 }
 
@@ -140,9 +128,9 @@ void pressKey(MainWindow& w, const Control& focused, int key) {
     answerByKey(w, key);
   } else if (key == keyEnter || key == keySpace) {
     pressDiscard(w);
-  } else if (w.discard.usable() && (&focused == &w.discard || selects)) {
+  } else if (w.state.takesCards && (&focused == &w.discard || selects)) {
     closePanelIfOpen(w);
-    if (selects && gameTakesCards(w)) selectNextCard(w);
+    if (selects && gameTakesCards(w.state)) selectNextCard(w);
   }
 }
 

@@ -5,8 +5,9 @@
 namespace mevracard {
 
 /// Multiplies the place, size, font size and border width of the table's controls by `factor` and
-/// shows the table. Which controls: the tables in the source. Positions and font sizes are rounded
-/// to single precision, border widths to whole pixels, half to even.
+/// shows most of them. Which: the lists in the source; the tutorial and the size panel keep their
+/// size. Positions and font sizes are rounded to single precision, border widths to whole pixels,
+/// half to even.
 void rescaleTable(MainWindow& w, double factor);
 
 /// The player moved the scroll bar to a new table size: rescales the table relative to the size

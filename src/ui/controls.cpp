@@ -26,10 +26,6 @@ void Choice::show(bool open) {
   for (Line& arrow : arrows) arrow.visible = open;
 }
 
-void Choice::hideArrows() {
-  for (Line& arrow : arrows) arrow.visible = false;
-}
-
 std::array<Label*, 6> Result::labels() {
   return {&deadlock, &youHave, &computerHas, &yourSum, &computersSum, &verdict};
 }

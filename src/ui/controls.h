@@ -52,7 +52,6 @@ struct Choice {
   std::array<Line, 3> arrows;  ///< from the status line to the buttons
 
   void show(bool open);
-  void hideArrows();
 };
 
 /// The end of a game.

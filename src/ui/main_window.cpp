@@ -39,7 +39,8 @@ void MainWindow::refresh() {
   showNumber(table.counters[1], state.cardsLeft[Side::Player]);
   showNumber(table.counters[2], state.passes[Side::Computer]);
   showNumber(table.counters[3], state.passes[Side::Player]);
-  form.growth = static_cast<double>(sizePanel.bar.maximum) / std::max(1, sizePanel.bar.value);
+  form.growth = std::max(1.0, static_cast<double>(largestTableSize) / std::max(1, state.tableSize));
+  discard.visible = state.takesCards;
   result.deadlock.visible = state.deadlock;
   menu.playerLevel1.checked = state.playerLevel == 1;
   menu.playerLevel2.checked = state.playerLevel == 2;
