@@ -63,9 +63,13 @@ class Scaler {
 
 void scaleTable(TableControls& table, const Scaler& by) {
   by.scale(table.whole);
-  by.show(table.counterHeadings);
+  for (PerSide<Counter>* counters : {&table.cardsLeft, &table.passes}) {
+    for (auto& [heading, count] : counters->values) {
+      by.show(heading);
+      by.show(count);
+    }
+  }
   by.show(table.handCaptions);
-  by.show(table.counters);
   by.show(table.leftGuides);
   by.show(table.border);
   by.show(table.rightGuides);

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "game/state.h"
 #include "platform/form.h"
 
 /// The controls of the main window that belong together.
@@ -32,6 +33,11 @@ struct CardControls {
   void uncover();
 };
 
+/// A count, and what stands over or under it.
+struct Counter {
+  Label heading, count;
+};
+
 /// What lies under and around the cards.
 struct TableControls {
   Shape whole;  ///< the area that table and hands take up; on no window itself
@@ -41,8 +47,7 @@ struct TableControls {
   std::array<Shape, 2> boxes;    ///< one that never shows, and the one where the markers are parked
   std::array<Shape, 2> markers;  ///< of the chain's turns
   std::array<Label, 2> handCaptions;
-  std::array<Label, 4> counterHeadings;
-  std::array<Label, 4> counters;  ///< cards left, passes; of each the computer's first
+  PerSide<Counter> cardsLeft, passes;
 };
 
 /// The same-number choice.

@@ -35,10 +35,10 @@ void MainWindow::refresh() {
     showNumber(cards[i].upper, state.cards[i].upper);
     showNumber(cards[i].lower, state.cards[i].lower);
   }
-  showNumber(table.counters[0], state.cardsLeft[Side::Computer]);
-  showNumber(table.counters[1], state.cardsLeft[Side::Player]);
-  showNumber(table.counters[2], state.passes[Side::Computer]);
-  showNumber(table.counters[3], state.passes[Side::Player]);
+  for (const Side side : {Side::Computer, Side::Player}) {
+    showNumber(table.cardsLeft[side].count, state.cardsLeft[side]);
+    showNumber(table.passes[side].count, state.passes[side]);
+  }
   form.growth = std::max(1.0, static_cast<double>(largestTableSize) / std::max(1, state.tableSize));
   discard.visible = state.takesCards;
   result.deadlock.visible = state.deadlock;

@@ -37,18 +37,22 @@ const LabelLook panelScale{paleGreen, black, smallItalic};
 const LabelLook panelGround{paleGreen, black, plain};
 
 // clang-format off
+void designCounters(TableControls& t) {
+  auto& [computersRest, playersRest] = t.cardsLeft.values;
+  auto& [computersPasses, playersPasses] = t.passes.values;
+  design(computersRest.heading,   {12960,  600, 1815, 375}, "Rest of Card", restHeading);
+  design(computersRest.count,     {14040,  990,  735, 495}, "14",           restCount);
+  design(playersRest.heading,     {13080, 9840, 1695, 375}, "Rest of Card", restHeading);
+  design(playersRest.count,       {14040, 9310,  735, 495}, "14",           restCount);
+  design(computersPasses.heading, {  360,  600, 1695, 375}, "No. of Pass",  passHeading);
+  design(computersPasses.count,   {  360,  990,  735, 495}, "0",            passCount);
+  design(playersPasses.heading,   {  360, 9840, 1695, 375}, "No. of Pass",  passHeading);
+  design(playersPasses.count,     {  360, 9310,  735, 495}, "0",            passCount);
+}
+
 void designTable(TableControls& t) {
   design(t.handCaptions[0],    {12600,  960, 1455, 735}, "Computer's Cards", handCaption);
   design(t.handCaptions[1],    {12600, 9480, 1455, 495}, "Your Cards",       handCaption);
-  design(t.counterHeadings[0], {12960,  600, 1815, 375}, "Rest of Card", restHeading);
-  design(t.counterHeadings[1], {13080, 9840, 1695, 375}, "Rest of Card", restHeading);
-  design(t.counterHeadings[2], {  360,  600, 1695, 375}, "No. of Pass",  passHeading);
-  design(t.counterHeadings[3], {  360, 9840, 1695, 375}, "No. of Pass",  passHeading);
-  design(t.counters[0],        {14040,  990,  735, 495}, "14", restCount);
-  design(t.counters[1],        {14040, 9310,  735, 495}, "14", restCount);
-  design(t.counters[2],        {  360,  990,  735, 495}, "0",  passCount);
-  design(t.counters[3],        {  360, 9310,  735, 495}, "0",  passCount);
-
   design(t.leftGuides[0],   6240, 4680,   360, 1560, darkBlue, 5);
   design(t.leftGuides[1],   6240, 6360,   360, 3240, darkBlue, 5);
   design(t.rightGuides[0],  7920, 6360, 14760, 9240, darkBlue, 5);
@@ -142,6 +146,17 @@ void designSizePanel(SizePanel& panel) {
 }
 // clang-format on
 
+void addCounters(Form& form, TableControls& t) {
+  form.add(t.cardsLeft[Side::Computer].heading, "Label1", 0);
+  form.add(t.cardsLeft[Side::Player].heading, "Label1", 1);
+  form.add(t.passes[Side::Computer].heading, "Label1", 2);
+  form.add(t.passes[Side::Player].heading, "Label1", 3);
+  form.add(t.cardsLeft[Side::Computer].count, "sisa", 0);
+  form.add(t.cardsLeft[Side::Player].count, "sisa", 1);
+  form.add(t.passes[Side::Computer].count, "sisa", 2);
+  form.add(t.passes[Side::Player].count, "sisa", 3);
+}
+
 void addTable(Form& form, TableControls& t) {
   // The captions of the hands come first: they reach over the table's edge, which must stay whole.
   addAll(form, t.handCaptions, "Label7");
@@ -151,8 +166,7 @@ void addTable(Form& form, TableControls& t) {
   form.add(t.centre, "kjumlah");
   addAll(form, t.boxes, "kotak");
   addAll(form, t.markers, "hubung");
-  addAll(form, t.counterHeadings, "Label1");
-  addAll(form, t.counters, "sisa");
+  addCounters(form, t);
   t.boxes[0].visible = false;
 }
 
@@ -238,11 +252,6 @@ void addSizePanel(Form& form, SizePanel& panel) {
   panel.show(false);
 }
 
-void link(MenuEntry& menu, std::initializer_list<MenuEntry*> entries) {
-  menu.entries = entries;
-  for (MenuEntry* entry : entries) entry->parent = &menu;
-}
-
 }  // namespace
 
 void MainWindow::designControls() {
@@ -259,6 +268,7 @@ void MainWindow::designControls() {
   form.escape = {&choice.cancel, &sizePanel.ok};
   form.seenFocus = &tutorial.next;
 
+  designCounters(table);
   designTable(table);
   for (CardControls& card : cards) designCard(card);
   cards[0].frame.backColor = handColour;
@@ -275,37 +285,6 @@ void MainWindow::designControls() {
   addStatusAndChoice(*this);
   addTutorial(form, tutorial);
   addSizePanel(form, sizePanel);
-}
-
-void MainWindow::designMenu() {
-  MenuEntries& m = menu;
-  // clang-format off
-  m.file             = {"file",   "&File"};
-  m.playerLevel      = {"plevel", "&Player Level"};
-  m.playerLevel1     = {"pl1",    "Level 1"};
-  m.playerLevel2     = {"pl2",    "Level 2"};
-  m.computerLevel    = {"clevel", "&Computer Level"};
-  m.computerLevel1   = {"cl1",    "Level &1"};
-  m.computerLevel2   = {"cl2",    "Level &2"};
-  m.newGame          = {"rg",     "&New Game"};
-  m.statistics       = {"stat",   "&Statistics"};
-  m.exit             = {"exit",   "&Exit"};
-  m.help             = {"help",   "&Help"};
-  m.about            = {"author", "&About"};
-  m.tips             = {"tips",   "&Tips of Game"};
-  m.homepage         = {"go",     "&Go to Homepage"};
-  m.helpTableSize    = {"rufoxx", "Screen&Option"};
-  m.tableSize        = {"scr",    "Screen&Option"};
-  m.howToPlay        = {"how",    "HowTo&Play"};
-  // clang-format on
-  m.playerLevel1.checked = true;
-  m.computerLevel1.checked = true;
-
-  link(m.playerLevel, {&m.playerLevel1, &m.playerLevel2});
-  link(m.computerLevel, {&m.computerLevel1, &m.computerLevel2});
-  link(m.file, {&m.playerLevel, &m.computerLevel, &m.newGame, &m.statistics, &m.exit});
-  link(m.help, {&m.about, &m.tips, &m.homepage, &m.helpTableSize});
-  form.menu = {&m.file, &m.help, &m.tableSize, &m.howToPlay};
 }
 
 }  // namespace mevracard

@@ -91,11 +91,12 @@ SpokenList scoreList(MainWindow& w) {
     if (label.visible) list.items.push_back({&label, name + label.caption});
   };
   add(w.status, "");
-  constexpr std::array owners{std::string_view("Computer's Cards, "),
-                              std::string_view("Your Cards, ")};
-  for (std::size_t i = 0; i < w.table.counters.size(); ++i) {
-    const std::string& heading = w.table.counterHeadings[i].caption;
-    add(w.table.counters[i], std::string(owners[i % 2]) + heading + ": ");
+  for (PerSide<Counter>* counters : {&w.table.cardsLeft, &w.table.passes}) {
+    for (const Side side : {Side::Computer, Side::Player}) {
+      auto& [heading, count] = (*counters)[side];
+      const std::string owner = side == Side::Player ? "Your Cards, " : "Computer's Cards, ";
+      add(count, owner + heading.caption + ": ");
+    }
   }
   add(w.result.deadlock, "");
   add(w.result.yourSum, w.result.youHave.caption + " ");

@@ -104,9 +104,9 @@ TEST(SmallWindow, ShowsTheWholeTableAndTheStatusInFront) {
   chooseFromMenu(screen, {"alt+o"});
   EXPECT_TRUE(isBefore(screen, w.sizePanel.ground, w.status));
   Screen::shoot("small-window");
-  for (const Box* box :
-       std::initializer_list<Box*>{&w.card(0).frame, &w.card(13).frame, &w.table.counterHeadings[0],
-                                   &w.table.counterHeadings[3]}) {
+  for (const Box* box : std::initializer_list<Box*>{&w.card(0).frame, &w.card(13).frame,
+                                                    &w.table.cardsLeft[Side::Computer].heading,
+                                                    &w.table.passes[Side::Player].heading}) {
     EXPECT_TRUE(window.geometry().contains(screen.place(*box)));
   }
   bringStatusToFront(w);
