@@ -33,6 +33,12 @@ Dots Dots::within(const Dots& other) const {
                  std::min(right(), other.right()), std::min(bottom(), other.bottom()));
 }
 
+Dots Dots::joined(const Dots& other) const {
+  if (empty() || other.empty()) return empty() ? other : *this;
+  return between(std::min(left, other.left), std::min(top, other.top),
+                 std::max(right(), other.right()), std::max(bottom(), other.bottom()));
+}
+
 Dots Dots::beside(const Dots& other) const {
   if (!meets(other)) return *this;
   const std::array pieces{

@@ -21,6 +21,8 @@ struct Dots {
   [[nodiscard]] bool meets(const Dots& other) const;
   /// What it has in common with another; empty if that is nothing.
   [[nodiscard]] Dots within(const Dots& other) const;
+  /// The smallest that holds both; what is empty counts for nothing.
+  [[nodiscard]] Dots joined(const Dots& other) const;
   /// The largest piece of it that the other one does not touch.
   [[nodiscard]] Dots beside(const Dots& other) const;
 };

@@ -77,6 +77,7 @@ class Maker {
     const auto& label = static_cast<const Label&>(*item.control);
     item.look = label;
     item.place = item.view.box(label);
+    item.type = views_.pinned.border(smallestType);
     if (isCovered(item, next, end)) return;
     const int border = label.bordered ? item.view.border(1) : 0;
     const int side = label.alignment == Alignment::Centre ? 0 : item.view.border(labelPadding);
@@ -128,7 +129,8 @@ Dots Item::bounds() const {
   if (const auto* shape = std::get_if<Shape>(&look)) {
     return place.grown(view.border(shape->borderWidth) + 1);
   }
-  return place;
+  if (std::holds_alternative<Line>(look) || control->parent != nullptr) return place;
+  return place.joined(room.grown(type));
 }
 
 Dots Views::placeOf(const Box& box) const {

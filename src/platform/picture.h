@@ -9,6 +9,8 @@
 
 namespace mevracard {
 
+constexpr double smallestType = 11;  ///< pixels of a caption's font; smaller ones cannot be read
+
 /// What a frame looks like, apart from what stands in it.
 struct FrameLook {
   Color backColor;
@@ -25,13 +27,15 @@ struct FrameLook {
 struct Item {
   Control* control = nullptr;
   std::variant<Label, FrameLook, Line, Shape>
-      look;    ///< the control as it was when it was presented
-  View view;   ///< between its twips and the window's dots
-  Dots place;  ///< of a line: what it covers, or the box around a slanted one
-  Dots room;   ///< a label's: where its text may stand; a frame's part: the inside of the frame
+      look;      ///< the control as it was when it was presented
+  View view;     ///< between its twips and the window's dots
+  Dots place;    ///< of a line: what it covers, or the box around a slanted one
+  Dots room;     ///< a label's: where its text is to stand; a frame's part: the inside of the frame
+  int type = 0;  ///< a label's: the smallest size of its font
 
   bool operator==(const Item&) const = default;
-  /// Everything that is painted of it, borders and shadows too.
+  /// Nothing of it is painted outside: borders and shadows are inside too, and a text that even in
+  /// its smallest type is too large for its room has a line more on each side.
   [[nodiscard]] Dots bounds() const;
 };
 

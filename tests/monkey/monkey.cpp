@@ -32,6 +32,7 @@
 
 #include "app/program.h"
 #include "monkey/promises.h"
+#include "painting/offscreen.h"
 #include "platform/qt/qt_desktop.h"
 #include "store/settings.h"
 #include "store/statistics.h"
@@ -41,9 +42,9 @@
 namespace mevracard::monkey {
 namespace {
 
-constexpr int usual = 5000;            // events; every situation of a game comes up in so many
-constexpr int atOnce = 5;              // turns of the event loop
-constexpr int coveredCardsEvery = 64;  // events; comparing pictures of all windows takes long
+constexpr int usual = 5000;        // events; every situation of a game comes up in so many
+constexpr int atOnce = 5;          // turns of the event loop
+constexpr int picturesEvery = 64;  // events; comparing those of all windows takes long
 
 /// Those on the screen, in the order in which they were made.
 QWindowList visibleWindows() {
@@ -117,7 +118,10 @@ class Monkey {
       goOn();  // first, as what it does may bring up an event loop of its own
       if (endCame_ && ++turnsSince_ > atOnce) fail("broken: it goes on after the session's end");
       promises_->checkWindows();
-      if (left_ % coveredCardsEvery == 0) promises_->checkCoveredCards();
+      if (left_ % picturesEvery == 0) {
+        promises_->checkPictures();
+        promises_->checkCoveredCards();
+      }
       nextEvent();
       act();
     });
@@ -353,16 +357,6 @@ class Monkey {
   int turnsSince_ = 0;    ///< of the event loop
 };
 
-/// The toolkit's desktop without a display gets a screen of a usual size.
-void describeScreen(const QString& path) {
-  if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) return;
-  std::ofstream(path.toStdString())
-      << R"({"screens": [{"name": "screen", "x": 0, "y": 0, "width": 1366, "height": 768,)"
-      << R"( "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
-  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + path.toLocal8Bit());
-  qputenv("QT_LOGGING_RULES", "default.warning=false");  // what it cannot do
-}
-
 }  // namespace
 }  // namespace mevracard::monkey
 
@@ -375,7 +369,7 @@ int main(int argc, char** argv) {
     return 2;
   }
   const QTemporaryDir home;
-  describeScreen(home.filePath("screen.json"));
+  mevracard::useOffscreen({1366, 768});
   qputenv("QT_HASH_SEED", "0");
   int nameAlone = 1;
   const QApplication application(nameAlone, argv);

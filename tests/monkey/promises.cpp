@@ -6,9 +6,11 @@
 #include <QPixmap>
 #include <QToolTip>
 #include <QWidget>
+#include <QWindow>
 #include <vector>
 
 #include "game/rules.h"
+#include "painting/offscreen.h"
 #include "simulate/player.h"
 #include "testing/trail.h"
 
@@ -70,6 +72,23 @@ void Promises::checkWindows() const {
     if (answers(*top)) return;
   }
   fail("broken: the main window is disabled and no other one answers");
+}
+
+void Promises::checkPictures() const {
+  std::vector<QWidget*> windows;
+  std::vector<QImage> shown;
+  for (QWidget* top : QApplication::topLevelWidgets()) {
+    if (!top->windowHandle() || !top->windowHandle()->isExposed()) continue;
+    windows.push_back(top);
+    shown.push_back(shownDots(*top));
+  }
+  w_.present();
+  for (std::size_t i = 0; i < windows.size(); ++i) {
+    const auto stale = differentDot(shown[i], afreshDots(*windows[i]));
+    if (!stale) continue;
+    fail("broken: \"" + windows[i]->windowTitle().toStdString() + "\" is stale at " +
+         std::to_string(stale->x()) + "," + std::to_string(stale->y()));
+  }
 }
 
 void Promises::checkCoveredCards() {

@@ -17,6 +17,8 @@ class Promises {
   void checkTable();
   /// At any moment: somebody answers the player.
   void checkWindows() const;
+  /// At any moment: every window shows, dot by dot, what a fresh painting of the same data gives.
+  void checkPictures() const;
   /// At any moment: a covered card is the same whatever its numbers are, to the eye, to a screen
   /// reader, in the clipboard.
   void checkCoveredCards();

@@ -8,6 +8,9 @@
 
 #include <gtest/gtest.h>
 
+#include "app/program.h"
+#include "platform/headless/headless_desktop.h"
+
 namespace mevracard {
 namespace {
 
@@ -51,6 +54,79 @@ TEST(Picture, HidesWhatIsCoveredAndKeepsTextsClear) {
   EXPECT_EQ(controlAt(picture, 20, 17), nullptr);
   cover.visible = false;
   EXPECT_EQ(controlAt(show(form), 3, 3), &number);
+}
+
+// What is left of a text's room beside something is its largest piece, on whichever side.
+TEST(Dots, KeepTheLargestPieceBesideOthers) {
+  const Dots room{10, 20, 10, 10};
+  EXPECT_EQ(room.beside({10, 22, 10, 1}), (Dots{10, 23, 10, 7}));
+  EXPECT_EQ(room.beside({0, 27, 90, 1}), (Dots{10, 20, 10, 7}));
+  EXPECT_EQ(room.beside({12, 0, 1, 90}), (Dots{13, 20, 7, 10}));
+  EXPECT_EQ(room.beside({17, 20, 2, 10}), (Dots{10, 20, 7, 10}));
+  EXPECT_EQ(room.beside({20, 20, 2, 10}), room);
+  EXPECT_TRUE(room.beside({0, 0, 90, 90}).empty());
+}
+
+/// All windows of a program, with everything in them that can be seen.
+std::vector<const Form*> showEverything(MainWindow& w) {
+  for (Form* form : {&w.form, &w.about.form, &w.statistics.form}) {
+    for (Control* control : form->controls) control->visible = true;
+  }
+  return {&w.form, &w.about.form, &w.statistics.form};
+}
+
+bool isFree(const Picture& picture, const Item& label) {
+  return std::none_of(&label + 1, picture.data() + picture.size(), [&](const Item& front) {
+    return front.bounds().meets(label.place.joined(label.room));
+  });
+}
+
+/// Where a text begins, ends or has its middle, as far as its alignment says, counts from there.
+int textAt(Alignment alignment, const Dots& dots) {
+  if (alignment == Alignment::Centre) return (dots.left + dots.right()) / 2;
+  return alignment == Alignment::Left ? dots.left : dots.right();
+}
+
+// Everything lies where its data say and inside what is painted anew when it changes, a part inside
+// its frame, and a text stands where its label does.
+TEST(Picture, HasEverythingOfEveryWindowInItsPlace) {
+  HeadlessDesktop desktop;
+  desktop.world.files = {{"wdx.sys", "1/1/99\r\n"}, {"sys32rtn.dat", "547153507498\r\n"}};
+  Program program(desktop);
+  program.start();
+  int freeTexts = 0;
+  for (const Form* form : showEverything(program.window())) {
+    for (const View table : {View::plain(1), View{0.1, 100, 200}, View{0.03, 31, -7}}) {
+      const Picture picture =
+          pictureOf(*form, {table, View::plain(2), {0, 0, 3000, 2000}}, [](const Frame& frame) {
+            return Position{frame.left, frame.top};
+          });
+      Dots frame;
+      for (const Item& item : picture) {
+        const Control& control = *item.control;
+        const bool isPart = control.parent != nullptr;
+        SCOPED_TRACE(control.fullName());
+        EXPECT_TRUE(item.bounds().holds(item.place));
+        if (control.kind == ControlKind::Frame) frame = item.place;
+        EXPECT_TRUE(!isPart || frame.grown(1).holds(item.place));
+        if (control.kind == ControlKind::Line) continue;
+        const auto& box = static_cast<const Box&>(control);
+        const View view = control.pinned ? View::plain(2) : table;
+        EXPECT_NEAR(item.place.left,
+                    (isPart ? frame.left : view.left) + box.left * view.dotsPerTwip, 0.6);
+        EXPECT_NEAR(item.place.top, (isPart ? frame.top : view.top) + box.top * view.dotsPerTwip,
+                    0.6);
+        const auto* label = std::get_if<Label>(&item.look);
+        if (label == nullptr || isPart || item.room.empty()) continue;
+        EXPECT_TRUE(item.bounds().holds(item.room));
+        if (!isFree(picture, item)) continue;
+        ++freeTexts;
+        EXPECT_NEAR(textAt(label->alignment, item.room), textAt(label->alignment, item.place),
+                    view.border(4));
+      }
+    }
+  }
+  EXPECT_GT(freeTexts, 20);
 }
 
 /// What is painted on a dot, back to front.

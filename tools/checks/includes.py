@@ -25,6 +25,7 @@ TOOLKIT_ALLOWED = (
     "tools/stage/",
     "tests/desktop/",
     "tests/monkey/",
+    "tests/painting/",
     "bench/desktop/",
 )
 SYSTEM_ALLOWED = ("platform/files", "platform/qt")  # the operating system's own calls

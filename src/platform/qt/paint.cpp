@@ -12,32 +12,29 @@ namespace mevracard {
 
 namespace {
 
-constexpr double smallestShare = 0.6;  // of the font's size
-constexpr double linesToBreak = 1.6;   // that a room must hold for a text to begin at its top
-constexpr double digitShare = 0.8;     // of a number box's height
-constexpr double digitHeight = 0.7;    // of a font's size
+constexpr double linesToBreak = 1.6;  // that a room must hold for a text to begin at its top
+constexpr double digitShare = 0.8;    // of a number box's height
+constexpr double digitHeight = 0.7;   // of a font's size
 
 int flagOf(Alignment alignment) {
   if (alignment == Alignment::Centre) return Qt::AlignHCenter;
   return alignment == Alignment::Right ? Qt::AlignRight : Qt::AlignLeft;
 }
 
-/// Of a font, the size in dots down to which it can be read.
-int readable(const QFont& font) { return qMax(1, qRound(font.pixelSize() * smallestShare)); }
-
 /// Writes a caption in the largest font, from `font` down to `smallest` dots, in which it fits its
-/// room, with line breaks where the room is high enough for them.
+/// room, or else in the smallest. It is broken into lines where the room is high enough for them.
 void write(QPainter& painter, const QRect& room, QString text, QFont font, int smallest,
            Alignment alignment) {
   if (room.isEmpty()) return;
   while (text.endsWith(' ')) text.chop(1);  // these may stand outside
-  const bool inTheMiddle =
-      alignment == Alignment::Centre || room.height() < linesToBreak * QFontMetrics(font).height();
-  const int flags =
-      flagOf(alignment) | Qt::TextWordWrap | (inTheMiddle ? Qt::AlignVCenter : Qt::AlignTop);
+  const auto oneLine = [&] { return room.height() < linesToBreak * QFontMetrics(font).height(); };
+  const bool inTheMiddle = alignment == Alignment::Centre || oneLine();
+  const int place = flagOf(alignment) | (inTheMiddle ? Qt::AlignVCenter : Qt::AlignTop);
+  int flags = place;
   QSize all;
-  for (int size = font.pixelSize(); size >= smallest; --size) {
+  for (int size = std::max(font.pixelSize(), smallest); size >= smallest; --size) {
     font.setPixelSize(size);
+    flags = place | (oneLine() ? 0 : Qt::TextWordWrap);
     all = QFontMetrics(font).boundingRect(room, flags, text).size();
     if (all.width() <= room.width() && all.height() <= room.height()) break;
   }
@@ -52,11 +49,16 @@ void paintLook(QPainter& painter, const Item& item, const Line& line) {
     return;
   }
   const View& view = item.view;
+  const QLineF middle(view.x(line.x1), view.y(line.y1), view.x(line.x2), view.y(line.y2));
+  QLineF across = middle.normalVector();
+  across.setLength(view.border(line.borderWidth) / 2.0);
+  const QPointF half(across.dx(), across.dy());
+  // Not a stroke, whose dots would depend on how much of it is painted at a time.
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(
-      QPen(toColor(line.borderColor), view.border(line.borderWidth), Qt::SolidLine, Qt::FlatCap));
-  painter.drawLine(QPointF(view.x(line.x1), view.y(line.y1)),
-                   QPointF(view.x(line.x2), view.y(line.y2)));
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(toColor(line.borderColor));
+  painter.drawPolygon(
+      QPolygonF{middle.p1() + half, middle.p2() + half, middle.p2() - half, middle.p1() - half});
 }
 
 void paintLook(QPainter& painter, const Item& item, const Shape& shape) {
@@ -153,7 +155,7 @@ void paintLook(QPainter& painter, const Item& item, const Label& label) {
   if (label.parent != nullptr && text.size() == 1) {
     paintDigit(painter, item, text, font);
   } else {
-    write(painter, toRect(item.room), text, font, readable(font), label.alignment);
+    write(painter, toRect(item.room), text, font, item.type, label.alignment);
   }
 }
 
@@ -167,6 +169,7 @@ DotPainter::DotPainter(QWidget& widget) : QPainter(&widget) {
 
 void paint(QPainter& painter, const Item& item) {
   painter.save();
+  painter.setClipRect(toRect(item.bounds()), Qt::IntersectClip);
   if (item.control->parent != nullptr && std::holds_alternative<Line>(item.look)) {
     painter.setClipRect(toRect(item.room), Qt::IntersectClip);
   } else if (item.control->parent != nullptr && std::holds_alternative<Shape>(item.look)) {
@@ -207,7 +210,7 @@ void paintButton(QPushButton& widget, const Button& button, const View& view) {
   const QRect room = place.toRect().adjusted(margin, 0, -margin, 0);
   // A button that became small with the table has room for more than a caption in proportion.
   write(painter, room, widget.text(), toFont(button.font, std::max(view.length(1), ratio)),
-        readable(toFont(button.font, view.length(1))), Alignment::Centre);
+        View::plain(ratio).border(smallestType), Alignment::Centre);
 }
 
 }  // namespace mevracard
