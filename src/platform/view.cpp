@@ -7,35 +7,35 @@ namespace mevracard {
 
 namespace {
 
-double near(double dots) {
+double drawnIn(double dots) {
   constexpr double farAway = 100000;
   return std::isnan(dots) ? 0 : std::clamp(dots, -farAway, farAway);
 }
 
 int dot(double place) { return static_cast<int>(std::lround(place)); }
 
-/// Dots a twip; no limit for what has no size.
-double share(double dots, double twips) { return twips > 0 ? dots / twips : 1e9; }
+/// The zoom at which so many twips fill so many dots; what has no size sets no limit.
+double zoomToFill(double dots, double twips) { return twips > 0 ? dots / twips : 1e9; }
 
 /// The origin at which the middle of something lies in the middle of its room.
-double originFor(double room, double start, double size, double scale) {
-  return near(std::round((room - size * scale) / 2 - start * scale));
+double originFor(double room, double start, double size, double zoom) {
+  return drawnIn(std::round((room - size * zoom) / 2 - start * zoom));
 }
 
 }  // namespace
 
-double View::x(double twips) const { return near(left + twips * dotsPerTwip); }
-double View::y(double twips) const { return near(top + twips * dotsPerTwip); }
+double View::x(double twips) const { return drawnIn(left + twips * dotsPerTwip); }
+double View::y(double twips) const { return drawnIn(top + twips * dotsPerTwip); }
 
 double View::length(double pixels) const {
-  return near(pixels * twipsPerDesignPixel * dotsPerTwip);
+  return drawnIn(pixels * twipsPerDesignPixel * dotsPerTwip);
 }
 
 int View::border(double pixels) const { return std::max(1, dot(length(pixels))); }
 
 Dots View::box(const Box& box, double atLeft, double atTop) const {
-  return {dot(x(atLeft)), dot(y(atTop)), std::max(0, dot(near(box.width * dotsPerTwip))),
-          std::max(0, dot(near(box.height * dotsPerTwip)))};
+  return {dot(x(atLeft)), dot(y(atTop)), std::max(0, dot(drawnIn(box.width * dotsPerTwip))),
+          std::max(0, dot(drawnIn(box.height * dotsPerTwip)))};
 }
 
 Dots View::line(const Line& line) const {
@@ -55,10 +55,10 @@ View View::plain(double ratio) { return {ratio / twipsPerDesignPixel, 0, 0}; }
 
 View View::fitted(const Box& whole, double width, double height, double ratio, double growth) {
   const double own = ratio / twipsPerDesignPixel;
-  const double scale =
-      std::min({own, share(width, whole.width * growth), share(height, whole.height * growth)});
-  return {scale, originFor(width, whole.left, whole.width, scale),
-          originFor(height, whole.top, whole.height, scale)};
+  const double zoom = std::min(
+      {own, zoomToFill(width, whole.width * growth), zoomToFill(height, whole.height * growth)});
+  return {zoom, originFor(width, whole.left, whole.width, zoom),
+          originFor(height, whole.top, whole.height, zoom)};
 }
 
 bool isStraight(const Line& line) { return line.x1 == line.x2 || line.y1 == line.y2; }

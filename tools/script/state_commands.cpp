@@ -14,7 +14,8 @@ namespace {
 std::string orderText(MainWindow& w) {
   std::string order;
   for (const Control* control : w.form.controls) {
-    if (control->name == "k") order += (order.empty() ? "" : " ") + control->fullName();
+    if (control->kind == ControlKind::Frame)
+      order += (order.empty() ? "" : " ") + control->fullName();
   }
   return order;
 }
