@@ -102,9 +102,17 @@ void onMenu(const On& on) {
   on(menu.howToPlay, startTutorial);
 }
 
+/// A key of the game, or a press of a card.
+bool isDoneAtTable(const MainWindow& w, const Event& event) {
+  const bool pressesKeys =
+      event.kind == Click && (event.control == &w.discard || event.control == &w.choice.keys);
+  return pressesKeys || event.kind == KeyPress || event.kind == DoubleClick;
+}
+
 /// Every event that means something, in four lists: the table, its panels, the other windows, the
 /// menu.
 void answer(MainWindow& w, const Event& event) {
+  w.playerActed = isDoneAtTable(w, event);
   const On on{w, event};
   onTable(on);
   onPanels(on);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "platform/control.h"
@@ -25,11 +24,13 @@ struct SpokenList {
 struct Speech {
   std::vector<SpokenList> lists;  ///< what can be asked for; always as many
   std::string news;               ///< what is said without being asked
-  int timesTold = 0;              ///< also when the same came again
+  std::string line;               ///< how things stand, while nothing is new
+  bool unsaid = false;            ///< a desktop says the news once, and takes this back
 
-  void tell(std::string words) {
-    news = std::move(words);
-    ++timesTold;
+  /// Said together with what was not said yet.
+  void tell(const std::string& words) {
+    news = unsaid ? news + words : words;
+    unsaid = true;
   }
 };
 

@@ -8,6 +8,7 @@ namespace mevracard {
 void openSizePanel(MainWindow& w) {
   w.state.sizePanelOpen = true;
   w.sizePanel.show(true);
+  w.form.giveFocus(w.sizePanel.bar);
   w.menu.howToPlay.enabled = false;
   sendStatusToBack(w);
 }

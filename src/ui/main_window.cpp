@@ -57,13 +57,19 @@ void MainWindow::present() {
   desktop.present();
 }
 
+void MainWindow::presentBeforeBox() {
+  refresh();
+  if (desktop.speaks()) speakBeforeBox();
+  desktop.present();
+}
+
 void MainWindow::say(std::string_view text) {
-  present();
+  presentBeforeBox();
   desktop.messageBox(text);
 }
 
 void MainWindow::report(std::string_view text) {
-  present();
+  presentBeforeBox();
   desktop.reportError(text);
 }
 

@@ -9,6 +9,7 @@
 #include "platform/desktop.h"
 #include "ui/about_window.h"
 #include "ui/controls.h"
+#include "ui/news.h"
 #include "ui/statistics_window.h"
 
 namespace mevracard {
@@ -36,7 +37,7 @@ struct MainWindow {
   Tutorial tutorial;
   SizePanel sizePanel;
 
-  GameState told;  ///< the state as it was last put into words
+  bool playerActed = false;  ///< at the table, and is to hear an answer
 
   AboutWindow about;  ///< also the window of the tips
   StatisticsWindow statistics;
@@ -59,12 +60,29 @@ struct MainWindow {
   void report(std::string_view text);
 
  private:
+  /// What was put into words so far.
+  struct Heard {
+    News news;
+    bool aside = false;  ///< another window is open
+    std::string about, statistics;
+  };
+
+  /// Presents what a message box will stand before.
+  void presentBeforeBox();
   /// Puts into words what the windows show, and what has happened since the last time.
   void speak();
+  /// The same, but a message box is heard next: what has happened is told when it is closed.
+  void speakBeforeBox();
+  void speakOfTable();
+  void speakOfGame();
+  void speakOfAbout();
+  void speakOfStatistics();
   /// Gives every control its design place, look and depth, back to front.
   void designControls();
   /// Gives the menu entries their captions and builds the menu tree.
   void designMenu();
+
+  Heard heard;
 };
 
 }  // namespace mevracard

@@ -15,7 +15,7 @@ KNOWS = {
     "texts": "",
     "store": "game",
     "ai": "game",
-    "ui": "platform game",
+    "ui": "platform game texts",
     "play": "platform game texts store ai ui",
     "app": "platform game texts store ai ui play",
 }

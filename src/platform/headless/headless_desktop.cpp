@@ -11,21 +11,18 @@ void HeadlessDesktop::attach(std::vector<Form*> forms, std::function<void(const 
   forms_ = std::move(forms);
   handler_ = std::move(handler);
   visible_.clear();
-  heard_.clear();
   running_ = true;
 }
 
 void HeadlessDesktop::present() {
   for (Form* form : forms_) form->glides.clear();
-  if (speaks()) hear();
+  if (speaks()) speak();
 }
 
-void HeadlessDesktop::hear() {
-  for (const Form* form : forms_) {
-    const Speech& speech = form->speech;
-    if (std::exchange(heard_[form], speech.timesTold) == speech.timesTold) continue;
-    tell(("says " + std::string(form->name)).c_str(), speech.news);
-  }
+void HeadlessDesktop::speak() const {
+  Form* form = activeForm();
+  if (form == nullptr || !std::exchange(form->speech.unsaid, false)) return;
+  tell(("says " + std::string(form->name)).c_str(), form->speech.news);
 }
 
 void HeadlessDesktop::show(Form& form) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <functional>
-#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -81,15 +80,14 @@ class HeadlessDesktop : public Desktop {
   [[nodiscard]] Attempt reach(const Form& form, const Control& control) const;
   [[nodiscard]] Form* formOf(const Control& control) const;
   void activate(Form& form);
-  /// What the windows say that was not heard yet.
-  void hear();
+  /// Says the news of the window that has the keyboard.
+  void speak() const;
   void tell(const char* what, std::string_view text) const;
 
   Sink sink_;
   std::function<void(const Event&)> handler_;
   std::vector<Form*> forms_;
-  std::map<const Form*, int> heard_;  ///< how often each was heard to tell news
-  std::vector<Form*> visible_;        ///< the active window last
+  std::vector<Form*> visible_;  ///< the active window last
   SeededRandom random_;
   bool running_ = false;
 };

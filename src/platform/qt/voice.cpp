@@ -230,7 +230,7 @@ void reportChanges(const Speech& before, const Speech& now, QWidget& canvas) {
 
 }  // namespace
 
-void Voice::flush(const Speech& speech, QWidget& canvas, QWidget& listener) {
+void Voice::flush(Speech& speech, QWidget& canvas, QWidget& listener) {
   const QString news = toText(speech.news);
   if (listener_ != &listener) {
     if (listener_ != nullptr) listener_->setAccessibleName(ownName_);
@@ -243,8 +243,10 @@ void Voice::flush(const Speech& speech, QWidget& canvas, QWidget& listener) {
   if (listener.accessibleName() != name) listener.setAccessibleName(name);
   if (QAccessible::isActive()) {
     reportChanges(told_, speech, canvas);
-    if (speech.timesTold != told_.timesTold && listener.hasFocus() && listener.isEnabled())
+    if (speech.unsaid && listener.hasFocus() && listener.isEnabled()) {
       announce(canvas, news);
+      speech.unsaid = false;
+    }
   }
   told_ = speech;
 }

@@ -12,7 +12,7 @@ namespace mevracard {
 class Voice {
  public:
   /// `listener` has the keyboard, or is about to get it.
-  void flush(const Speech& speech, QWidget& canvas, QWidget& listener);
+  void flush(Speech& speech, QWidget& canvas, QWidget& listener);
 
  private:
   Speech told_;

@@ -1,0 +1,90 @@
+#include "ui/spoken_lists.h"
+
+#include <algorithm>
+
+#include "game/scoring.h"
+#include "ui/main_window.h"
+#include "ui/spoken_cards.h"
+#include "ui/status_text.h"
+
+namespace mevracard {
+
+namespace {
+
+SpokenList handList(MainWindow& w, Side side, const char* name) {
+  const GameState& s = w.state;
+  SpokenList list{name, {}};
+  for (const int slot : handOf(side)) {
+    if (!s.card(slot).held) continue;
+    SpokenItem item{&w.card(slot).frame, isCovered(s, side) ? "face down" : cardInHand(s, slot)};
+    item.answersPress = side == Side::Player;
+    item.selected = item.answersPress && slot == s.selectedCard;
+    list.items.push_back(std::move(item));
+  }
+  return list;
+}
+
+std::string placeOfEnd(const GameState& s, End end) {
+  const bool both = s.endCard[End::RightTop] == s.endCard[End::LeftBottom];
+  return (both ? ", at both ends" : ", at the " + nameOf(end) + " end") + ", open number " +
+         std::to_string(s.openNumber[end]);
+}
+
+/// The cards at the ends come first, then those between them from Right/Top to Left/Bottom.
+SpokenList tableList(MainWindow& w) {
+  const GameState& s = w.state;
+  SpokenList list{"Table", {}};
+  const auto add = [&](int slot, const std::string& place) {
+    list.items.push_back({&w.card(slot).frame, nameOf(s.card(slot)) + place});
+  };
+  if (s.openings == 0) return list;
+  const auto first = s.endCard[End::RightTop];
+  const auto second = s.endCard[End::LeftBottom];
+  if (first) add(*first, placeOfEnd(s, End::RightTop));
+  if (second && second != first) add(*second, placeOfEnd(s, End::LeftBottom));
+  const auto laid = s.laidCards();
+  const auto tellInside = [&](const LaidCard& card, End end) {
+    if (card.end == end && card.slot != first && card.slot != second) add(card.slot, "");
+  };
+  std::for_each(laid.rbegin(), laid.rend(),
+                [&](const LaidCard& card) { tellInside(card, End::RightTop); });
+  for (const LaidCard& card : laid) tellInside(card, End::LeftBottom);
+  return list;
+}
+
+/// Counters and results under the names that stand beside them.
+SpokenList scoreList(MainWindow& w) {
+  const GameState& s = w.state;
+  SpokenList list{"Score", {}};
+  const auto add = [&list](Label& label, const std::string& words) {
+    list.items.push_back({&label, words});
+  };
+  const auto addSum = [&](Label& label, const Label& caption, Side side) {
+    add(label, caption.caption + " " + std::to_string(leftover(s, side).sum));
+  };
+  if (s.openings > 0 && !s.gameOver) add(w.status, statusText(s.announcement, s.tutorial.running));
+  const auto addCounts = [&](PerSide<Counter>& counters, const PerSide<int>& counts) {
+    for (const Side side : {Side::Computer, Side::Player}) {
+      const std::string owner = side == Side::Player ? "Your Cards, " : "Computer's Cards, ";
+      auto& [heading, count] = counters[side];
+      add(count, owner + heading.caption + ": " + std::to_string(counts[side]));
+    }
+  };
+  addCounts(w.table.cardsLeft, s.cardsLeft);
+  addCounts(w.table.passes, s.passes);
+  if (!s.gameOver) return list;
+  if (s.deadlock) add(w.result.deadlock, "DEADLOCK!");
+  addSum(w.result.yourSum, w.result.youHave, Side::Player);
+  addSum(w.result.computersSum, w.result.computerHas, Side::Computer);
+  add(w.result.verdict, s.result == GameResult::Won ? "You win" : "You lose");
+  return list;
+}
+
+}  // namespace
+
+std::vector<SpokenList> spokenLists(MainWindow& w) {
+  return {handList(w, Side::Player, "Your cards"), handList(w, Side::Computer, "Computer's cards"),
+          tableList(w), scoreList(w)};
+}
+
+}  // namespace mevracard

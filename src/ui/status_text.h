@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+
+#include "game/state.h"
+
+namespace mevracard {
+
+/// What the status line says.
+[[nodiscard]] std::string statusText(Announcement announcement, bool tutorialRuns);
+
+}  // namespace mevracard
