@@ -1,6 +1,7 @@
 #include "game/deal.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <numeric>
 
 #include "game/leading_number.h"
@@ -17,6 +18,14 @@ double dealSeedOf(std::string_view shortDate, int minute, int second) {
 
 namespace {
 
+/// Which of so many even parts of [0, 1) a draw falls into. Counted in whole steps of 2^-53, so
+/// that no machine rounds it into another part; a draw reaches up to the next step, as 0.3 is 3
+/// of 10.
+std::size_t partOf(double draw, std::uint64_t parts) {
+  const auto reach = (static_cast<std::uint64_t>(draw * 0x1p53) + 1) * parts;
+  return parts == 0 ? 0 : static_cast<std::size_t>((reach - 1) >> 53U);
+}
+
 /// QUIRK-03: `v` never swaps with itself, so the permutation is one single cycle. One would expect
 /// every permutation; the player never sees the n-th pair (the 0-0 is the first) dealt to slot n.
 /// Meant.
@@ -24,8 +33,7 @@ std::array<std::size_t, cardCount> singleCycle(const std::function<double()>& dr
   std::array<std::size_t, cardCount> slots{};
   std::iota(slots.begin(), slots.end(), std::size_t{0});
   for (std::size_t v = cardCount; v-- > 0;) {
-    const auto j = static_cast<std::size_t>(draw() * static_cast<double>(v));
-    std::swap(slots[v], slots[j]);
+    std::swap(slots[v], slots[partOf(draw(), v)]);
   }
   return slots;
 }

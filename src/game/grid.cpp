@@ -1,10 +1,14 @@
 #include "game/grid.h"
 
+#include <cmath>
+
 namespace mevracard {
 
 double scaleOf(int tableSize, int screenHeight) {
   return static_cast<double>(tableSize) / largestTableSize * 0.96 * screenHeight / 11520.0;
 }
+
+double steady(double value) { return std::nearbyint(value * 0x1p20) / 0x1p20; }
 
 GridPoint handPlace(int slot) {
   const bool player = ownerOf(slot) == Side::Player;

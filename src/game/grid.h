@@ -19,6 +19,11 @@ constexpr int openingPosition = 6;
 /// for the largest size on a screen 11520 twips high.
 [[nodiscard]] double scaleOf(int tableSize, int screenHeight);
 
+/// A computed fraction that something hangs on, to 2^-20: finer than any place on the table, far
+/// coarser than what machines round differently. What is rounded, counted or compared from here on
+/// comes out alike on all of them.
+[[nodiscard]] double steady(double value);
+
 /// A card's place in its owner's hand row.
 [[nodiscard]] GridPoint handPlace(int slot);
 

@@ -117,7 +117,7 @@ void demonstrate(MainWindow& w) {
   const auto [dx, dy] = demo.offset;
   const auto [x, y] = demo.start;
   const int i = ++demo.tick;
-  const int steps = std::min(wholeNumber(std::sqrt(dx * dx + dy * dy) / 10), longestWay);
+  const int steps = std::min(wholeNumber(steady(std::sqrt(dx * dx + dy * dy) / 10)), longestWay);
   if (i <= steps) {
     movePointer(w, x + i * dx / steps, y + i * dy / steps);
   } else if (i < steps + 3 || i == steps + 4 || i == steps + 5) {

@@ -64,12 +64,13 @@ void glideCard(MainWindow& w) {
   const double scale = w.scale();
   const double left0 = frame.left;
   const double top0 = frame.top;
-  const double distance = target.left * scale - left0;
+  const double left1 = steady(target.left * scale);
+  const double distance = left1 - left0;
   const double step = std::floor(distance / 5);
   if (step == 0) return;
   const double slope = (target.top * scale - top0) / distance;
   const Position from{frame.left, frame.top};
-  for (double x = left0; step > 0 ? x <= left0 + distance : x >= left0 + distance; x += step) {
+  for (double x = left0; step > 0 ? x <= left1 : x >= left1; x += step) {
     frame.left = static_cast<float>(x);
     frame.top = static_cast<float>(top0 + slope * (x - left0));
   }

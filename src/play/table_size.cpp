@@ -4,6 +4,8 @@
 #include <cmath>
 #include <limits>
 
+#include "game/grid.h"
+
 namespace mevracard {
 
 namespace {
@@ -32,7 +34,7 @@ class Scaler {
   /// QUIRK-33: rounded at every step. One would expect lines to grow and shrink with the table;
   /// moving the scroll bar one by one never thins them. Meant.
   void scaleBorder(std::int16_t& width) const {
-    const double product = std::nearbyint(width * factor_);
+    const double product = std::nearbyint(steady(width * factor_));
     if (std::abs(product) <= std::numeric_limits<std::int16_t>::max()) {
       width = static_cast<std::int16_t>(product);
     }
