@@ -66,7 +66,7 @@ class Watch final : public QObject {
 /// The player's files as at any start but the first, which waits for the disk.
 void fill(const QTemporaryDir& home) {
   std::ofstream(home.filePath("wdx.sys").toStdString()) << "1/1/99\r\n";
-  std::ofstream(home.filePath("sys32rtn.dat").toStdString()) << emptyRecordText();
+  std::ofstream(home.filePath("sys32rtn.dat").toStdString()) << emptyStatisticsText();
 }
 
 int openTheGame(char** argv, const QTemporaryDir& home, long long spawned) {

@@ -31,7 +31,7 @@ class PosingDesktop final : public QtDesktop {
  public:
   explicit PosingDesktop(const QString& dataDir)
       : QtDesktop(dataDir.toStdString(),
-                  {{"wdx.sys", "1/1/99\r\n"}, {"sys32rtn.dat", emptyRecordText()}}) {
+                  {{"wdx.sys", "1/1/99\r\n"}, {"sys32rtn.dat", emptyStatisticsText()}}) {
     QtDesktop::seedRandom(3);
   }
   void seedRandom(double /*seed*/) override {}

@@ -20,7 +20,7 @@ class QuietDesktop final : public QtDesktop {
  public:
   explicit QuietDesktop(const QString& dataDir)
       : QtDesktop(dataDir.toStdString(), {{std::string(settingsFile), defaultSettingsText()},
-                                          {std::string(statisticsFile), emptyRecordText()}}) {}
+                                          {std::string(statisticsFile), emptyStatisticsText()}}) {}
   void messageBox(std::string_view /*text*/) override {}
 };
 

@@ -8,7 +8,7 @@ int main(int /*argc*/, char** argv) {
   const DesktopSetup setup{argv,
                            MEVRACARD_DATA_DIR,
                            {{std::string(settingsFile), defaultSettingsText()},
-                            {std::string(statisticsFile), emptyRecordText()}}};
+                            {std::string(statisticsFile), emptyStatisticsText()}}};
   return runOnDesktop(setup, [](Desktop& desktop, const std::function<void()>& loop) {
     Program program(desktop);
     program.start();

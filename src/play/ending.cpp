@@ -13,13 +13,13 @@ namespace {
 constexpr int replyDelay = 1000;
 
 /// A lost game is counted here, whoever has decided it.
-/// QUIRK-43: and so is a demonstration that is played to its end. One would expect the record to
-/// hold the player's own games alone; the player finds one more there, won or lost. Meant.
+/// QUIRK-43: and so is a demonstration that is played to its end. One would expect the
+/// statistics to hold the player's own games alone; the player finds one more there. Meant.
 void decide(MainWindow& w, GameResult result) {
   const bool won = result == GameResult::Won;
   w.state.result = result;
   w.result.verdict.caption = won ? "You win" : "You lose";
-  recordResult(w, won ? RecordMode::Won : RecordMode::Lost);
+  recordResult(w, result);
 }
 
 void playerHasWon(MainWindow& w) {
@@ -56,7 +56,7 @@ void deadlock(MainWindow& w) {
   GameState& s = w.state;
   if (s.tutorial.running) endTutorial(w);
   s.deadlock = true;
-  w.result.verdict.visible = true;  // also while a message of the record stands before it
+  w.result.verdict.visible = true;  // also while a message about the statistics stands before it
   showSums(w);
   const bool won = playerWinsDeadlock(leftover(s, Side::Player), leftover(s, Side::Computer));
   decide(w, won ? GameResult::Won : GameResult::Lost);

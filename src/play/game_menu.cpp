@@ -11,7 +11,7 @@ namespace {
 void countAbortedGame(MainWindow& w) {
   if (w.state.gameOver) return;
   w.say(abortMessage);
-  recordResult(w, RecordMode::Lost);
+  recordResult(w, GameResult::Lost);
 }
 
 }  // namespace
@@ -28,7 +28,7 @@ void chooseExit(MainWindow& w) {
 
 void endBySystem(MainWindow& w) {
   // A loss like any other, but nobody is there to be told.
-  if (!w.state.gameOver) recordResult(w, RecordMode::Lost);
+  if (!w.state.gameOver) recordResult(w, GameResult::Lost);
   w.desktop.end();
 }
 

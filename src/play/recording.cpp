@@ -1,35 +1,43 @@
 #include "play/recording.h"
 
+#include <functional>
+
 #include "texts/messages.h"
 
 namespace mevracard {
 
 namespace {
 
-/// Until the file is ours: another running game may have recorded its own result meanwhile, then
-/// this one adds to that.
-void writeRecord(MainWindow& w, RecordMode mode) {
+/// Another running game may change the file meanwhile; then the change is made to what it wrote.
+/// QUIRK-44: tells that the counts begin again also when they are emptied. One would expect no
+/// word; the player who clears 999 games reads that they are reset. Meant.
+void changeFile(MainWindow& w, const std::function<std::string(std::string_view)>& change) {
   bool told = false;
   bool written = false;
   while (!written) {
     const std::string before = w.desktop.readFile(statisticsFile);
-    const RecordUpdate update = updatedRecord(before, mode);
-    if (update.startedAgain && !told) {
+    if (countsAreFull(before) && !told) {
       w.say(countsFullMessage);
       told = true;
     }
-    written = w.desktop.exchangeFile(statisticsFile, before, update.text);
+    written = w.desktop.exchangeFile(statisticsFile, before, change(before));
+  }
+}
+
+/// Statistics that cannot be kept must not stop the end of a game; they stay as they were.
+void changeIfPossible(MainWindow& w, const std::function<std::string(std::string_view)>& change) {
+  try {
+    changeFile(w, change);
+  } catch (const PlatformError&) {
   }
 }
 
 }  // namespace
 
-void recordResult(MainWindow& w, RecordMode mode) {
-  try {
-    writeRecord(w, mode);
-  } catch (const PlatformError&) {
-    // A result that cannot be kept must not stop the end of a game; the figures stay as they were.
-  }
+void recordResult(MainWindow& w, GameResult result) {
+  changeIfPossible(w, [result](std::string_view text) { return withResult(text, result); });
 }
+
+void forgetResults(MainWindow& w) { changeIfPossible(w, withoutResults); }
 
 }  // namespace mevracard

@@ -5,8 +5,10 @@
 
 namespace mevracard {
 
-/// Adds a result to the statistics file, or clears it. A file that cannot be read or written ends
-/// it without a message.
-void recordResult(MainWindow& w, RecordMode mode);
+// A statistics file that cannot be read or written ends either without a message.
+/// Adds the result of a game to the statistics.
+void recordResult(MainWindow& w, GameResult result);
+/// Empties the statistics.
+void forgetResults(MainWindow& w);
 
 }  // namespace mevracard

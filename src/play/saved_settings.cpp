@@ -11,7 +11,7 @@ namespace {
 std::optional<SavedSettings> readSettings(Desktop& desktop) {
   try {
     const auto settings = parseSettings(desktop.readFile(settingsFile));
-    // The record must be readable as well: one file without the other is a torn installation.
+    // The statistics must be readable as well: one file without the other is a torn installation.
     (void)desktop.readFile(statisticsFile);
     return settings;
   } catch (const PlatformError&) {
@@ -37,7 +37,7 @@ void makeFilesAnew(MainWindow& w) {
     }
   };
   write(settingsFile, defaultSettingsText());
-  write(statisticsFile, emptyRecordText());
+  write(statisticsFile, emptyStatisticsText());
   if (!failures.empty()) w.report(failures);
 }
 
@@ -48,8 +48,8 @@ void takeDefaults(MainWindow& w) {
   w.state.savedLevels = {};
   w.state.playerLevel = 1;
   w.state.computerLevel = 1;
-  // QUIRK-38: one file that cannot be read resets the other as well. One would expect the record
-  // of games to survive a torn settings file; the player starts from no games. Meant.
+  // QUIRK-38: one file that cannot be read resets the other as well. One would expect the
+  // statistics to survive a torn settings file; the player starts from no games. Meant.
   makeFilesAnew(w);
 }
 

@@ -6,13 +6,13 @@ namespace mevracard {
 
 namespace {
 
-void showFigures(MainWindow& w) {
+void showStatistics(MainWindow& w) {
   StatisticsWindow& window = w.statistics;
-  const Figures figures = figuresOf(w.desktop.readFile(statisticsFile));
-  window.won.caption = std::to_string(figures.won);
-  window.lost.caption = std::to_string(figures.lost);
-  window.wonPercent.caption = std::to_string(figures.wonPercent) + "%";
-  window.lostPercent.caption = std::to_string(figures.lostPercent) + "%";
+  const Statistics statistics = statisticsOf(w.desktop.readFile(statisticsFile));
+  window.won.caption = std::to_string(statistics.won);
+  window.lost.caption = std::to_string(statistics.lost);
+  window.wonPercent.caption = std::to_string(statistics.wonPercent) + "%";
+  window.lostPercent.caption = std::to_string(statistics.lostPercent) + "%";
 }
 
 }  // namespace
@@ -20,12 +20,12 @@ void showFigures(MainWindow& w) {
 void openStatistics(MainWindow& w) {
   w.form.enabled = false;
   w.desktop.show(w.statistics.form);
-  showFigures(w);
+  showStatistics(w);
 }
 
 void clearStatistics(MainWindow& w) {
-  recordResult(w, RecordMode::Clear);
-  showFigures(w);
+  forgetResults(w);
+  showStatistics(w);
 }
 
 void closeStatistics(MainWindow& w) {

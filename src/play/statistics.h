@@ -4,10 +4,10 @@
 
 namespace mevracard {
 
-/// Menu Statistics: disables the main window and shows the figures of the file. A file that cannot
+/// Menu Statistics: disables the main window and shows what the file holds. A file that cannot
 /// be read is a PlatformError.
 void openStatistics(MainWindow& w);
-/// Clear: a record of no games, shown at once.
+/// Clear: no games, shown at once.
 void clearStatistics(MainWindow& w);
 /// OK, or the close box: back to the main window.
 void closeStatistics(MainWindow& w);

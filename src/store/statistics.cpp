@@ -13,7 +13,7 @@ constexpr std::size_t codedLength = 12;
 constexpr std::size_t lineEndLength = 2;
 constexpr int mostGames = 998;
 
-/// The two counts as they stand in the record, three digits each unless the record is torn.
+/// The two counts as they stand in the file, three digits each unless it is torn.
 struct Counts {
   std::string won, lost;
 };
@@ -37,41 +37,40 @@ std::string restOf(std::string_view fileText) {
   return std::string(fileText.substr(codedLength, fileText.size() - codedLength - lineEndLength));
 }
 
+std::string withCounts(std::string_view fileText, std::string_view digits) {
+  return encodeDigits(digits) + restOf(fileText) + "\r\n";
+}
+
 }  // namespace
 
-std::string emptyRecordText() { return encodeDigits("000000") + "\r\n"; }
-
-RecordUpdate updatedRecord(std::string_view fileText, RecordMode mode) {
+Statistics statisticsOf(std::string_view fileText) {
   const Counts counts = countsOf(fileText);
-  const int won = numberOf(counts.won);
-  const int lost = numberOf(counts.lost);
-  const bool full = won + lost > mostGames;
-
-  std::string digits;
-  if (mode == RecordMode::Clear) {
-    digits = "000000";
-  } else if (full) {
-    // QUIRK-28: the two counts have become numbers, so joining them adds them: the record holds the
-    // single digit 1. One would expect "001000" or "000001"; the next window shows 1 game won and
-    // 1 lost, and the results after it join that short record just as it stands. Meant.
-    digits = "1";
-  } else if (mode == RecordMode::Won) {
-    digits = padded(won + 1) + counts.lost;
-  } else {
-    digits = counts.won + padded(lost + 1);
-  }
-  return {encodeDigits(digits) + restOf(fileText) + "\r\n", full};
-}
-
-Figures figuresOf(std::string_view fileText) {
-  const Counts counts = countsOf(fileText);
-  Figures figures{numberOf(counts.won), numberOf(counts.lost), 0, 0};
-  const int total = figures.won + figures.lost;
-  if (total == 0) return figures;
+  Statistics statistics{numberOf(counts.won), numberOf(counts.lost), 0, 0};
+  const int total = statistics.won + statistics.lost;
+  if (total == 0) return statistics;
   // QUIRK-34: both are cut off, so that they may add up to 99. Meant.
-  figures.wonPercent = figures.won * 100 / total;
-  figures.lostPercent = figures.lost * 100 / total;
-  return figures;
+  statistics.wonPercent = statistics.won * 100 / total;
+  statistics.lostPercent = statistics.lost * 100 / total;
+  return statistics;
 }
+
+bool countsAreFull(std::string_view fileText) {
+  const Statistics statistics = statisticsOf(fileText);
+  return statistics.won + statistics.lost > mostGames;
+}
+
+std::string withResult(std::string_view fileText, GameResult result) {
+  // QUIRK-28: the two counts have become numbers, so joining them adds them: the file holds the
+  // single digit 1. One would expect "001000" or "000001"; the next window shows 1 game won and 1
+  // lost, and the results after it join that short text just as it stands. Meant.
+  if (countsAreFull(fileText)) return withCounts(fileText, "1");
+  const auto [won, lost] = countsOf(fileText);
+  return withCounts(fileText, result == GameResult::Won ? padded(numberOf(won) + 1) + lost
+                                                        : won + padded(numberOf(lost) + 1));
+}
+
+std::string withoutResults(std::string_view fileText) { return withCounts(fileText, "000000"); }
+
+std::string emptyStatisticsText() { return withoutResults(""); }
 
 }  // namespace mevracard

@@ -178,7 +178,7 @@ TEST(SystemEnd, CountsARunningGameOnceWhateverIsOpen) {
     QTimer::singleShot(800, [&] { bySignal ? (void)std::raise(SIGHUP) : endSession(); });
     chooseFromMenu(screen, keys);
     ASSERT_TRUE(screen.waitFor([&] { return !screen.mainWidget().isVisible(); }));
-    EXPECT_EQ(w.desktop.readFile(statisticsFile), updatedRecord(before, RecordMode::Lost).text);
+    EXPECT_EQ(w.desktop.readFile(statisticsFile), withResult(before, GameResult::Lost));
     EXPECT_EQ(screen.messages.size(), 1U);
     beginAnew();
     bySignal = !bySignal;

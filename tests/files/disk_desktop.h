@@ -21,7 +21,7 @@ class DiskDesktop : public HeadlessDesktop {
   explicit DiskDesktop(const std::filesystem::path& directory, Sink sink = {})
       : HeadlessDesktop(std::move(sink)),
         files_(directory, {{std::string(settingsFile), defaultSettingsText()},
-                           {std::string(statisticsFile), emptyRecordText()}}) {}
+                           {std::string(statisticsFile), emptyStatisticsText()}}) {}
 
   std::string readFile(std::string_view name) override { return files_.read(name); }
   void writeFile(std::string_view name, std::string_view text) override {

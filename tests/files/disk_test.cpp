@@ -79,7 +79,7 @@ struct Situation {
   bool told;                           ///< whether the rule has a message for a failure
 };
 
-const std::string someGames = updatedRecord(emptyRecordText(), RecordMode::Won).text;
+const std::string someGames = withResult(emptyStatisticsText(), GameResult::Won);
 
 const Situation situations[] = {
     {"level change", "2/1/80\r\n", someGames, "1/1/80\r\n", someGames,
@@ -87,14 +87,13 @@ const Situation situations[] = {
        p.handle({EventKind::Menu, &p.window().form, nullptr, &p.window().menu.playerLevel1, 0});
      },
      true},
-    {"result", "2/1/80\r\n", someGames, "2/1/80\r\n",
-     updatedRecord(someGames, RecordMode::Lost).text,
+    {"result", "2/1/80\r\n", someGames, "2/1/80\r\n", withResult(someGames, GameResult::Lost),
      [](Program& p) {
        p.handle({EventKind::SystemEnd, &p.window().form, nullptr, nullptr, 0});
      },
      false},
-    {"files anew", "torn", someGames, defaultSettings, emptyRecordText(), nullptr, true},
-    {"first start", "", "", defaultSettings, emptyRecordText(), nullptr, true},
+    {"files anew", "torn", someGames, defaultSettings, emptyStatisticsText(), nullptr, true},
+    {"first start", "", "", defaultSettings, emptyStatisticsText(), nullptr, true},
 };
 
 /// Whether a call failed at all: the last round of each kind goes through undisturbed.
@@ -193,13 +192,13 @@ TEST(DataFiles, OutliveAHundredKills) {
     if (fs::exists(home.game())) {
       const std::string text = bytesOf(home.settings());
       ASSERT_TRUE(text == "1/1/99\r\n" || text == "2/1/99\r\n") << text;
-      ASSERT_EQ(bytesOf(home.record()).size(), emptyRecordText().size());
-      ASSERT_GE(figuresOf(bytesOf(home.record())).lost, lost);
+      ASSERT_EQ(bytesOf(home.record()).size(), emptyStatisticsText().size());
+      ASSERT_GE(statisticsOf(bytesOf(home.record())).lost, lost);
     }
     const DiskDesktop next(home.game());
     ASSERT_EQ(entriesIn(home.game()), 2);
     ASSERT_EQ(entriesIn(home.root()), 1);
-    lost = figuresOf(bytesOf(home.record())).lost;
+    lost = statisticsOf(bytesOf(home.record())).lost;
   }
   EXPECT_EQ(kills, 100);
 }

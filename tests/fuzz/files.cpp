@@ -54,10 +54,10 @@ void loseAGame(Game& game) {
   game.desktop.menu(game.w.menu.newGame);
   const std::string after = game.file(statisticsFile);
   const std::string digits = decodeDigits(std::string_view(before).substr(0, 12));
-  const Figures old = figuresOf(before);
+  const Statistics old = statisticsOf(before);
   const bool whole = digits.size() == 6 && before.starts_with(encodeDigits(digits));
   if (!whole || before.size() < 14 || old.won + old.lost > 998) return;
-  const Figures now = figuresOf(after);
+  const Statistics now = statisticsOf(after);
   demand(now.won == old.won && now.lost == old.lost + 1, "a loss is counted once");
   demand(after.substr(12) == before.substr(12, before.size() - 14) + "\r\n", "the rest is kept");
 }
@@ -71,10 +71,10 @@ void chooseLevel(Game& game, MenuEntry& level) {
 
 void clearStatistics(Game& game) {
   const StatisticsWindow& shown = game.w.statistics;
-  const Figures figures = figuresOf(game.file(statisticsFile));
+  const Statistics statistics = statisticsOf(game.file(statisticsFile));
   game.desktop.menu(game.w.menu.statistics);
-  demand(shown.won.caption == std::to_string(figures.won), "wins are shown");
-  demand(figures.wonPercent + figures.lostPercent <= 100, "percentages are at most 100");
+  demand(shown.won.caption == std::to_string(statistics.won), "wins are shown");
+  demand(statistics.wonPercent + statistics.lostPercent <= 100, "percentages are at most 100");
   game.desktop.click(game.w.statistics.clear);
   demand(shown.won.caption == "0" && shown.lost.caption == "0", "Clear clears");
 }
@@ -102,7 +102,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     demand(game.w.menu.playerLevel1.checked && game.w.menu.computerLevel1.checked,
            "both levels are 1 by default");
     demand(game.file(settingsFile) == "1/1/99\r\n", "the settings are made anew");
-    demand(game.file(statisticsFile) == emptyRecordText(), "and so is the record");
+    demand(game.file(statisticsFile) == emptyStatisticsText(), "and so is the record");
   }
   loseAGame(game);
   game.checkNextStart();

@@ -58,7 +58,7 @@ class WatchedDesktop final : public QtDesktop {
  public:
   explicit WatchedDesktop(const QString& files)
       : QtDesktop(files.toStdString(), {{std::string(settingsFile), "1/1/99\r\n"},
-                                        {std::string(statisticsFile), emptyRecordText()}}) {}
+                                        {std::string(statisticsFile), emptyStatisticsText()}}) {}
 
   void attach(std::vector<Form*> forms, std::function<void(const Event&)> handler) override {
     windows = forms;
@@ -278,7 +278,7 @@ class Monkey {
     fs::remove_all(path);
     if (way == 1) fs::create_directories(path);
     if (way < 2) return;
-    std::string text = settings ? oneIn(2) ? "2/1/99\r\n" : "1/2/70\r\n" : emptyRecordText();
+    std::string text = settings ? oneIn(2) ? "2/1/99\r\n" : "1/2/70\r\n" : emptyStatisticsText();
     if (way == 2) text.resize(static_cast<std::size_t>(random_.below(8)));
     if (way == 3) {
       for (char& c : text) c = static_cast<char>(random_.below(256));

@@ -23,7 +23,7 @@ QImage canvasOf(const FormWindow& window, const QImage& dots) {
 Table::Table(const std::string& settings)
     : desktop_(files_.filePath("data").toStdString(),
                {{std::string(settingsFile), settings + "\r\n"},
-                {std::string(statisticsFile), emptyRecordText()}}),
+                {std::string(statisticsFile), emptyStatisticsText()}}),
       program_(desktop_),
       w(program_.window()) {
   program_.start();

@@ -67,30 +67,28 @@ TEST(DigitCode, StaysTheOneOfTheFiles) {
 }
 
 TEST(Statistics, CountAndKeepWhatFollowsTheRecord) {
-  EXPECT_EQ(updatedRecord(record("000000"), RecordMode::Won).text, record("001000"));
-  EXPECT_EQ(updatedRecord(record("009099", "tail"), RecordMode::Lost).text,
-            record("009100", "tail"));
-  EXPECT_EQ(updatedRecord(record("012345", "tail"), RecordMode::Clear).text,
-            record("000000", "tail"));
-  EXPECT_FALSE(updatedRecord(record("499499"), RecordMode::Won).startedAgain);
-  EXPECT_EQ(updatedRecord(encodeDigits("000000") + "\n", RecordMode::Won).text, record("001000"));
+  EXPECT_EQ(withResult(record("000000"), GameResult::Won), record("001000"));
+  EXPECT_EQ(withResult(record("009099", "tail"), GameResult::Lost), record("009100", "tail"));
+  EXPECT_EQ(withoutResults(record("012345", "tail")), record("000000", "tail"));
+  EXPECT_FALSE(countsAreFull(record("499499")));
+  EXPECT_EQ(withResult(encodeDigits("000000") + "\n", GameResult::Won), record("001000"));
   const std::string much(8'000'000, 'z');
-  EXPECT_EQ(updatedRecord(record("000000", much), RecordMode::Won).text, record("001000", much));
+  EXPECT_EQ(withResult(record("000000", much), GameResult::Won), record("001000", much));
 }
 
 // QUIRK-28: at 999 games the counts begin again and the record holds the single digit 1, whoever
 // won; the next reading takes that digit for both counts.
 TEST(Statistics, StartAgainAt999) {
-  for (const RecordMode mode : {RecordMode::Won, RecordMode::Lost}) {
-    const RecordUpdate update = updatedRecord(record("500499", "tail"), mode);
-    EXPECT_TRUE(update.startedAgain);
-    EXPECT_EQ(update.text, encodeDigits("1") + "tail\r\n");
+  const std::string full = record("500499", "tail");
+  EXPECT_TRUE(countsAreFull(full));
+  for (const GameResult result : {GameResult::Won, GameResult::Lost}) {
+    EXPECT_EQ(withResult(full, result), encodeDigits("1") + "tail\r\n");
   }
-  EXPECT_EQ(figuresOf(record("1")).won, 1);
-  EXPECT_EQ(figuresOf(record("1")).lost, 1);
-  EXPECT_EQ(figuresOf(record("002000")).wonPercent, 100);
-  EXPECT_EQ(figuresOf(record("000002")).lostPercent, 100);
-  EXPECT_EQ(updatedRecord(record("1"), RecordMode::Won).text, encodeDigits("0021") + "\r\n");
+  EXPECT_EQ(statisticsOf(record("1")).won, 1);
+  EXPECT_EQ(statisticsOf(record("1")).lost, 1);
+  EXPECT_EQ(statisticsOf(record("002000")).wonPercent, 100);
+  EXPECT_EQ(statisticsOf(record("000002")).lostPercent, 100);
+  EXPECT_EQ(withResult(record("1"), GameResult::Won), encodeDigits("0021") + "\r\n");
 }
 
 // Another program's record that comes while the box of 999 games waits is the one that is added to,
@@ -106,7 +104,7 @@ TEST(Statistics, AddToWhatAnotherProgramWroteMeanwhile) {
     });
     desktop.world.files[std::string(statisticsFile)] = record("500499");
     MainWindow w(desktop);
-    recordResult(w, RecordMode::Won);
+    recordResult(w, GameResult::Won);
     EXPECT_EQ(desktop.readFile(statisticsFile), after);
     EXPECT_EQ(boxes, 1);
   }
@@ -127,7 +125,7 @@ TEST(SystemEnd, IsALossOfARunningGame) {
     program.window().form.enabled = false;
     messages = 0;
     program.handle({EventKind::SystemEnd, &program.window().form, nullptr, nullptr, 0});
-    EXPECT_EQ(figuresOf(desktop.readFile(statisticsFile)).lost, 3 - over);
+    EXPECT_EQ(statisticsOf(desktop.readFile(statisticsFile)).lost, 3 - over);
     EXPECT_EQ(messages, 0);
     EXPECT_FALSE(desktop.running());
   }

@@ -9,7 +9,7 @@ Table::Table(const Request& request, std::uint64_t seed)
     : style_(request.player), random_(seed), program_(desktop_) {
   World& world = desktop_.world;
   world.files.emplace(settingsFile, settingsText({1, request.level}, 99));
-  world.files.emplace(statisticsFile, emptyRecordText());
+  world.files.emplace(statisticsFile, emptyStatisticsText());
   // The deal draws once a card, the computer once a turn in which it lays one. All of it comes from
   // the seed, so that date and clock do not matter.
   for (int n = 0; n < cardCount + handSize; ++n) world.draws.push_back(random_.fraction());

@@ -22,7 +22,7 @@ QString folderWith(const QTemporaryDir& home, const std::string& settings) {
     }
   };
   put("wdx.sys", settings + "\r\n");
-  put("sys32rtn.dat", emptyRecordText());
+  put("sys32rtn.dat", emptyStatisticsText());
   return home.path();
 }
 
