@@ -59,7 +59,8 @@ void onTable(const On& on) {
   on(Click, w.choice.leftBottom, chooseLeftBottom);
   on(Click, w.choice.rightTop, chooseRightTop);
   on(Click, w.choice.cancel, cancelChoice);
-  if (event.kind == KeyPress && event.form == &w.form) pressKey(w, *event.control, event.value);
+  const bool key = event.kind == KeyPress && event.form == &w.form && event.control != nullptr;
+  if (key) pressKey(w, *event.control, event.value);
   on(Close, w.form, chooseExit);
   on(SystemEnd, w.form, endBySystem);
 }
@@ -106,7 +107,8 @@ void onMenu(const On& on) {
 bool isDoneAtTable(const MainWindow& w, const Event& event) {
   const bool pressesKeys =
       event.kind == Click && (event.control == &w.discard || event.control == &w.choice.keys);
-  return pressesKeys || event.kind == KeyPress || event.kind == DoubleClick;
+  const bool typesKey = event.kind == KeyPress && event.form == &w.form;
+  return pressesKeys || typesKey || event.kind == DoubleClick;
 }
 
 /// Every event that means something, in four lists: the table, its panels, the other windows, the

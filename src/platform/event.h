@@ -24,14 +24,17 @@ constexpr int keySpace = 32;
 struct Event {
   EventKind kind = EventKind::Click;
   Form* form = nullptr;
-  Control* control = nullptr;  ///< null for Menu, Tick, Close and SystemEnd
+  Control* control = nullptr;  ///< null for Menu, Tick, Close, SystemEnd, and a key that none takes
   MenuEntry* entry = nullptr;
   int value = 0;
 };
 
 /// What a key does in this window: Enter and Space press the focused button, any other key goes to
-/// the focused control as a KeyPress. The form must have a usable focus.
+/// the focused control as a KeyPress, or to none without a usable focus.
 [[nodiscard]] inline Event keyEvent(Form& form, int key) {
+  if (form.focus == nullptr || !form.focus->usable()) {
+    return {EventKind::KeyPress, &form, nullptr, nullptr, key};
+  }
   const bool press =
       (key == keyEnter || key == keySpace) && form.focus->kind == ControlKind::Button;
   return {press ? EventKind::Click : EventKind::KeyPress, &form, form.focus, nullptr,

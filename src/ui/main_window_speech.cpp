@@ -31,7 +31,8 @@ void MainWindow::speak() {
   const bool returns = std::exchange(heard.aside, aside) && !aside;
   if (aside) takeBackNews(form.speech);
   speakOfTable();
-  heard.news.note(state, std::exchange(playerActed, false) || returns);
+  heard.news.note(state, std::exchange(playerActed, false));
+  if (returns && !form.speech.unsaid) heard.news.oweAnswer();
   if (!replyIsDue(*this)) speakOfGame();
   speakOfAbout();
   speakOfStatistics();
@@ -39,7 +40,8 @@ void MainWindow::speak() {
 
 void MainWindow::speakBeforeBox() {
   speakOfTable();
-  heard.news.note(state, true);
+  heard.news.note(state, playerActed);
+  heard.news.oweAnswer();
   takeBackNews(form.speech);
 }
 

@@ -22,44 +22,52 @@ News::Told News::all(const GameState& s) {
   return all;
 }
 
-void News::note(const GameState& s, bool answerIsDue) {
-  const bool anotherGame = s.openings == 0 || s.laidCount < told_.laid;
-  if (anotherGame) {
-    const Told before = std::exchange(told_, {});
-    told_.size = before.size;
-    told_.demonstration = before.demonstration;
-  }
+void News::startAnew() {
+  const Told before = std::exchange(told_, {});
+  told_.size = before.size;
+  told_.demonstration = before.demonstration;
+  moves_.clear();
+  laid_ = false;
+}
+
+void News::note(const GameState& s, bool playerActed) {
+  if (s.openings == 0 || s.laidCount < told_.laid) startAnew();
   if (std::exchange(refusals_, s.refusals) != s.refusals) {
-    refused_ = nameOf(s.card(s.playCard)) + " does not fit. ";
+    noteMoves(s);  // before the refusal
+    moves_ += nameOf(s.card(s.playCard)) + " does not fit. ";
   }
   // A pass selects a card too, of which nobody is told.
-  if (std::exchange(selected_, s.selectedCard) != s.selectedCard) picked_ = answerIsDue;
-  answerIsDue_ = answerIsDue_ || answerIsDue;
+  if (std::exchange(selected_, s.selectedCard) != s.selectedCard) picked_ = playerActed;
+  told_.pass = told_.pass && s.passAwaitsOk;
+  answerIsDue_ = answerIsDue_ || playerActed;
+}
+
+void News::noteMoves(const GameState& s) {
+  if (!told_.hands && s.openings > 0) moves_ += "New game. " + dealtHands(s);
+  const std::string laid = laidCards(s, told_.laid);
+  moves_ += laid;
+  laid_ = laid_ || !laid.empty();
+  told_.hands = s.openings > 0;
+  told_.laid = s.laidCount;
 }
 
 std::string News::tell(const GameState& s) {
   const Told now = all(s);
+  noteMoves(s);
   if (told_.size && !now.size) answerIsDue_ = true;
-  const std::string moved = moves(s, now);
-  std::string words = moved + refused_ + selection(s) + situation(s, now, !moved.empty());
-  if (words.empty() && answerIsDue_) words = prompt(s);
-  told_ = now;
-  refused_.clear();
-  picked_ = false;
-  answerIsDue_ = false;
-  return words;
-}
-
-std::string News::moves(const GameState& s, const Told& now) const {
   std::string words;
   if (told_.demonstration && !now.demonstration && !now.over) words += demonstrationEnds();
   if (!told_.demonstration && now.demonstration) words += demonstrationBegins();
-  if (!told_.hands && now.hands) words += "New game. " + dealtHands(s);
-  const std::string laid = laidCards(s, told_.laid);
-  words += laid;
+  words += moves_;
   // Else a message box has told it.
   if (now.over && now.computersPasses > told_.computersPasses) words += "Computer passes. ";
-  return laid.empty() ? words : words + openNumbers(s);
+  if (laid_) words += openNumbers(s);
+  words += now.choice ? selection(s) + situation(s, now) : situation(s, now) + selection(s);
+  if (words.empty() && answerIsDue_) words = prompt(s);
+  told_ = now;
+  moves_.clear();
+  laid_ = picked_ = answerIsDue_ = false;
+  return words;
 }
 
 std::string News::selection(const GameState& s) const {
@@ -68,12 +76,12 @@ std::string News::selection(const GameState& s) const {
                                      : "No card is selected. ";
 }
 
-std::string News::ending(const GameState& s, const Told& now) const {
-  return resultWords(s) + (told_.demonstration && !now.demonstration ? demonstrationEnds() : "");
+std::string News::ending(const GameState& s) const {
+  return resultWords(s) + (told_.demonstration ? demonstrationEnds() : "");
 }
 
-std::string News::situation(const GameState& s, const Told& now, bool moved) const {
-  if (now.over && !told_.over) return ending(s, now);
+std::string News::situation(const GameState& s, const Told& now) const {
+  if (now.over && !told_.over) return ending(s);
   if (now.size && now.size != told_.size) {
     return told_.size ? std::to_string(*now.size) + ". " : panelWords(s);
   }
@@ -81,7 +89,7 @@ std::string News::situation(const GameState& s, const Told& now, bool moved) con
   if (now.pass) return told_.pass ? "" : passWords();
   if (now.choice) return now.choice == told_.choice ? "" : choiceWords(s);
   if (now.shown) return now.shown == told_.shown ? "" : shownCard(s);
-  return moved || now.announcement != told_.announcement ? turnWords(s) : "";
+  return laid_ || now.announcement != told_.announcement ? turnWords(s) : "";
 }
 
 }  // namespace mevracard

@@ -10,9 +10,10 @@ namespace mevracard {
 /// What has happened in the game since it was last told, in words.
 class News {
  public:
-  /// After every event, whether it is told now or later. An `answerIsDue` to whom asked, even if
-  /// nothing has happened.
-  void note(const GameState& s, bool answerIsDue);
+  /// After every event, whether it is told now or later.
+  void note(const GameState& s, bool playerActed);
+  /// The player is to hear how things stand, even if nothing has happened.
+  void oweAnswer() { answerIsDue_ = true; }
 
   /// All that was not told yet; empty if nothing was.
   [[nodiscard]] std::string tell(const GameState& s);
@@ -32,15 +33,17 @@ class News {
   };
 
   [[nodiscard]] static Told all(const GameState& s);
-  [[nodiscard]] std::string moves(const GameState& s, const Told& now) const;
+  void startAnew();
+  void noteMoves(const GameState& s);
   [[nodiscard]] std::string selection(const GameState& s) const;
-  [[nodiscard]] std::string ending(const GameState& s, const Told& now) const;
-  [[nodiscard]] std::string situation(const GameState& s, const Told& now, bool moved) const;
+  [[nodiscard]] std::string ending(const GameState& s) const;
+  [[nodiscard]] std::string situation(const GameState& s, const Told& now) const;
 
   Told told_;
+  std::string moves_;  ///< not told yet
+  bool laid_ = false;  ///< cards, among the moves
   int refusals_ = 0;
   int selected_ = noSelection;
-  std::string refused_;  ///< the card that was, in words
   bool picked_ = false;  ///< the player has moved the selection
   bool answerIsDue_ = false;
 };

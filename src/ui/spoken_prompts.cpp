@@ -1,5 +1,6 @@
 #include "ui/spoken_prompts.h"
 
+#include "game/rules.h"
 #include "game/scoring.h"
 #include "ui/spoken_cards.h"
 #include "ui/status_text.h"
@@ -17,7 +18,9 @@ std::string turnPrompt(const GameState& s) {
   if (slot >= handSize || !s.card(slot).held) {
     return turnWords(s) + "Press P to select a card, then Enter to lay it. ";
   }
-  return cardInHand(s, slot) + ". Press Enter to lay it, or P for another card. ";
+  const std::string card = cardInHand(s, slot) + ". Press ";
+  return card +
+         (fits(s, slot) ? "Enter to lay it, or P for another card. " : "P for another card. ");
 }
 
 }  // namespace

@@ -114,7 +114,11 @@ Attempt HeadlessDesktop::mouseDown(Control& control) {
 Attempt HeadlessDesktop::key(int key) {
   if (!running_) return {Refusal::Ended};
   Form* form = activeForm();
-  if (form == nullptr || form->focus == nullptr) return {Refusal::NoFocus};
+  if (form == nullptr) return {Refusal::NoFocus};
+  if (form->focus == nullptr) {
+    send(keyEvent(*form, key));  // a player who does not look is answered all the same
+    return {Refusal::NoFocus};
+  }
   if (const Attempt way = reach(*form, *form->focus); !way) return way;
   return send(keyEvent(*form, key));
 }

@@ -189,7 +189,7 @@ void FormWindow::passKeyboardOn() {
 void FormWindow::keyPressEvent(QKeyEvent* event) {
   const int key = keyCodeOf(*event);
   if (key == 0 || !form_.enabled || (key == keyEscape && escape())) return;
-  if (form_.focus != nullptr && form_.focus->usable()) deliver_(keyEvent(form_, key));
+  deliver_(keyEvent(form_, key));
 }
 
 bool FormWindow::escape() {
