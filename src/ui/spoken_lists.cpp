@@ -17,8 +17,8 @@ SpokenList handList(MainWindow& w, Side side, const char* name) {
   for (const int slot : handOf(side)) {
     if (!s.card(slot).held) continue;
     SpokenItem item{&w.card(slot).frame, isCovered(s, side) ? "face down" : cardInHand(s, slot)};
-    item.answersPress = side == Side::Player;
-    item.selected = item.answersPress && slot == s.selectedCard;
+    item.answersPress = side == Side::Player && !s.gameOver && !s.tutorial.running;
+    item.selected = side == Side::Player && slot == s.selectedCard;
     list.items.push_back(std::move(item));
   }
   return list;
