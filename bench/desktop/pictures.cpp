@@ -1,7 +1,6 @@
 // Takes pictures of what a player meets, for take_pictures.sh: NAME.png in the working folder. A
 // game with the same hands every time, played through the program's own events.
 #include <QApplication>
-#include <QMessageBox>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QTimer>

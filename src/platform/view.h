@@ -9,6 +9,13 @@ constexpr double twipsPerInch = 1440;
 constexpr double pixelsPerInch = 96;  ///< of the design; a screen may have several dots a pixel
 constexpr double twipsPerDesignPixel = twipsPerInch / pixelsPerInch;
 
+/// How many times their design size panels, small windows and boxes have on a screen of so many
+/// pixels' height: beyond this height they grow as the table does.
+constexpr double growthOn(double screenHeight) {
+  constexpr double usualHeight = 1200;
+  return screenHeight > usualHeight ? screenHeight / usualHeight : 1;
+}
+
 /// How a window's twips lie on the dots of its screen: one zoom and one origin. The only place
 /// where a place is rounded to a dot, so that every edge is crisp. A place absurdly far away is
 /// drawn in to one that still counts in whole numbers.

@@ -26,6 +26,7 @@ TOOLKIT_ALLOWED = (
     "tests/desktop/",
     "tests/monkey/",
     "tests/painting/",
+    "tests/screens/",
     "bench/desktop/",
 )
 SYSTEM_ALLOWED = ("platform/files", "platform/qt")  # the operating system's own calls

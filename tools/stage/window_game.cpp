@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QFile>
-#include <QMessageBox>
 #include <QScreen>
 #include <stdexcept>
 
@@ -37,7 +36,7 @@ WindowGame::WindowGame(int seed, const std::string& settings)
 }
 
 void WindowGame::closeMessageBox() {
-  auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+  auto* box = dynamic_cast<MessageBox*>(QApplication::activeModalWidget());
   if (!answersBoxes || box == nullptr || !box->isVisible()) return;
   // Elsewhere a window may never get the keyboard.
   if (showsTheScreen() && !box->isActiveWindow()) return;

@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/view.h"
+
 namespace mevracard {
 
 namespace {
@@ -63,6 +65,8 @@ QString toText(std::string_view text) {
 QRect areaOf(const QWidget& window) {
   return window.isMaximized() ? window.screen()->availableGeometry() : window.frameGeometry();
 }
+
+double growthOf(const QWidget& window) { return growthOn(window.screen()->size().height()); }
 
 void applyLook() {
   // The menu belongs to the table on every desktop; to look for another place takes a while.

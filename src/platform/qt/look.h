@@ -24,6 +24,9 @@ namespace mevracard {
 /// The part of the screen that a window takes up, or will once it is maximized.
 [[nodiscard]] QRect areaOf(const QWidget& window);
 
+/// How many times its design size is what stands beside the table, on this window's screen.
+[[nodiscard]] double growthOf(const QWidget& window);
+
 /// One light look for the whole program, whatever the desktop's theme says.
 void applyLook();
 /// The icon of every window, also of those that are open.

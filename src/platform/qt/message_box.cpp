@@ -2,45 +2,131 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QScreen>
+#include <QStyle>
+#include <QTextDocument>
+#include <algorithm>
+#include <cmath>
 
-#include "platform/qt/menu.h"
+#include "platform/qt/look.h"
+#include "platform/qt/paint.h"
+#include "platform/qt/placing.h"
 
 namespace mevracard {
 
 namespace {
 
-/// Wide enough to read the title, and without the blanks that stand for an icon that is not there.
-void tidy(QMessageBox& box) {
-  constexpr int titleButtons = 130;  // pixels that the window manager needs beside a title
-  auto* grid = qobject_cast<QGridLayout*>(box.layout());
-  auto* text = box.findChild<QLabel*>("qt_msgbox_label");
-  if (grid == nullptr || text == nullptr) return;
-  if (box.icon() == QMessageBox::NoIcon) {
-    QLayoutItem* indent = grid->itemAtPosition(0, 0);
-    if (indent != nullptr && indent->spacerItem() != nullptr) {
-      indent->spacerItem()->changeSize(0, 0);
-    }
-    text->setIndent(0);
+// All in pixels, on a screen on which nothing grows.
+constexpr int usualWidth = 480;  // of a text that breaks
+constexpr int smallestType = 8;
+constexpr int margin = 12;
+constexpr QSize buttonSize(65, 33);
+constexpr int signSize = 32;
+constexpr int titleButtons = 130;  // what the window manager needs beside a title
+constexpr QSize windowFrame(16, 48);
+constexpr Font usualType{"MS Sans Serif", 9.75F};
+
+/// A text that breaks at blanks, and a word that is too long for a line anywhere.
+class Text final : public QLabel {
+ public:
+  explicit Text(const QString& text) : QLabel(text) {
+    setTextFormat(Qt::PlainText);
+    document_.setPlainText(text);
+    document_.setDocumentMargin(0);
   }
-  text->setMinimumWidth(box.fontMetrics().horizontalAdvance(box.windowTitle()) + titleButtons);
+
+  /// Makes it wider than usual, and its type smaller, only where it would not fit otherwise.
+  void fit(int usual, QSize room) {
+    QFont type = font();
+    setMeasures(type, std::min(usual, room.width()));
+    for (int size = type.pixelSize(); height() > room.height() && size >= smallestType; --size) {
+      type.setPixelSize(size);
+      setMeasures(type, room.width());
+    }
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override {
+    QPainter painter(this);
+    document_.drawContents(&painter);
+  }
+
+ private:
+  void setMeasures(const QFont& type, int width) {
+    document_.setDefaultFont(type);
+    document_.setTextWidth(width);
+    setFixedSize(static_cast<int>(std::ceil(document_.idealWidth())),
+                 static_cast<int>(std::ceil(document_.size().height())));
+  }
+
+  QTextDocument document_;
+};
+
+/// Looks as the table's buttons do.
+class OkButton final : public QPushButton {
+ public:
+  explicit OkButton(double growth) : QPushButton("OK"), growth_(growth) {
+    setFixedSize(buttonSize * growth);
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override {
+    paintButton(*this, Button(), View::plain(devicePixelRatioF() * growth_));
+  }
+
+ private:
+  double growth_;
+};
+
+QLabel* warningSign(int size) {
+  auto* sign = new QLabel;
+  sign->setPixmap(sign->style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(size));
+  return sign;
 }
 
 }  // namespace
 
-void showMessageBox(QWidget* parent, QPoint middle, QMessageBox::Icon icon, const QString& title,
-                    const QString& text) {
-  closeMenus();
-  QMessageBox box(icon, title, text, QMessageBox::NoButton, parent);
-  // Not the toolkit's own OK, which looks for an icon in all themes first.
-  box.addButton("OK", QMessageBox::AcceptRole);
-  box.setObjectName("messageBox");
-  box.setTextFormat(Qt::PlainText);
-  box.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                     Qt::WindowCloseButtonHint);
-  tidy(box);
-  box.adjustSize();
-  if (parent != nullptr) box.move(middle - box.rect().center());
-  box.exec();
+MessageBox::MessageBox(QWidget* parent, Kind kind, const QString& title, const QString& text)
+    : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                          Qt::WindowCloseButtonHint),
+      text_(text),
+      growth_(growthOf(*this)) {
+  setObjectName("messageBox");
+  setWindowTitle(title);
+  auto* grid = new QGridLayout(this);
+  const int around = grown(margin);
+  grid->setContentsMargins(around, around, around, around);
+  grid->setSpacing(around);
+  grid->setSizeConstraint(QLayout::SetFixedSize);
+  const int sign = kind == Kind::Error ? grown(signSize) : 0;
+  if (sign > 0) grid->addWidget(warningSign(sign), 0, 0, Qt::AlignTop);
+
+  const QSize room = screen()->availableGeometry().size() - windowFrame -
+                     QSize(sign + 3 * around, grown(buttonSize.height()) + 3 * around);
+  auto* label = new Text(text);
+  label->setFont(toFont(usualType, growth_));
+  label->fit(grown(usualWidth), room);
+  grid->addWidget(label, 0, 1, Qt::AlignLeft | Qt::AlignVCenter);
+  const int titleWidth = fontMetrics().horizontalAdvance(title) + titleButtons;
+  grid->setColumnMinimumWidth(1, std::min(room.width(), titleWidth));
+
+  auto* ok = new OkButton(growth_);
+  connect(ok, &QPushButton::clicked, this, &QDialog::accept);
+  grid->addWidget(ok, 1, 0, 1, 2, Qt::AlignHCenter);
+  ok->setFocus();
+}
+
+int MessageBox::grown(int pixels) const { return static_cast<int>(pixels * growth_); }
+
+void MessageBox::waitAt(QPoint middle) {
+  adjustSize();
+  if (parentWidget() != nullptr) {
+    const QRect room = screen()->availableGeometry();
+    move(placeInside(size() + windowFrame, room, middle - rect().center()));
+  }
+  exec();
 }
 
 }  // namespace mevracard

@@ -1,12 +1,26 @@
 #pragma once
 
-#include <QMessageBox>
+#include <QDialog>
 
 namespace mevracard {
 
-/// Shows a modal box with an OK button in the middle of a place on the screen and waits until it is
-/// closed. `parent` may be null; the box then stands where the window system puts it.
-void showMessageBox(QWidget* parent, QPoint middle, QMessageBox::Icon icon, const QString& title,
-                    const QString& text);
+/// A modal box: a text, all of which is seen on any screen, and an OK button like the table's.
+class MessageBox final : public QDialog {
+ public:
+  enum class Kind { Message, Error };
+
+  /// Without a parent it stands where the window system puts it.
+  MessageBox(QWidget* parent, Kind kind, const QString& title, const QString& text);
+
+  [[nodiscard]] const QString& text() const { return text_; }
+  /// Shows it with its middle there, as far as the screen has room, and waits until it is closed.
+  void waitAt(QPoint middle);
+
+ private:
+  [[nodiscard]] int grown(int pixels) const;
+
+  QString text_;
+  double growth_;
+};
 
 }  // namespace mevracard

@@ -11,7 +11,6 @@
 
 #include "platform/qt/look.h"
 #include "platform/qt/menu.h"
-#include "platform/qt/message_box.h"
 #include "platform/qt/reduced_motion.h"
 #include "platform/qt/voice.h"
 #include "platform/view.h"
@@ -107,17 +106,18 @@ void QtDesktop::deliverDueTicks() {
   for (std::size_t i = 0; i < windows_.size(); ++i) windows_[i]->deliverDueTick();
 }
 
-void QtDesktop::messageBox(std::string_view text) { showBox(QMessageBox::NoIcon, text); }
+void QtDesktop::messageBox(std::string_view text) { showBox(MessageBox::Kind::Message, text); }
 
-void QtDesktop::reportError(std::string_view text) { showBox(QMessageBox::Warning, text); }
+void QtDesktop::reportError(std::string_view text) { showBox(MessageBox::Kind::Error, text); }
 
-void QtDesktop::showBox(QMessageBox::Icon icon, std::string_view text) {
+void QtDesktop::showBox(MessageBox::Kind kind, std::string_view text) {
   if (endingBySystem_) return;
   const Busy busy(*this);
+  closeMenus();
   QWidget* parent = QApplication::activeWindow();
   if (parent == nullptr && !windows_.empty()) parent = windows_.front().get();
   const QPoint middle = windows_.empty() ? QPoint() : windows_.front()->middle();
-  showMessageBox(parent, middle, icon, toText(forms_.front()->caption), toText(text));
+  MessageBox(parent, kind, toText(forms_.front()->caption), toText(text)).waitAt(middle);
   if (endingBySystem_) throw EndedBySystem();
 }
 

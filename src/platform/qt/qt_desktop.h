@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QMessageBox>
 #include <QTimer>
 #include <memory>
 
@@ -8,6 +7,7 @@
 #include "platform/files/data_files.h"
 #include "platform/qt/form_window.h"
 #include "platform/qt/held_keys.h"
+#include "platform/qt/message_box.h"
 #include "platform/qt/pointer.h"
 #include "platform/qt/system_end.h"
 #include "platform/seeded_random.h"
@@ -57,7 +57,7 @@ class QtDesktop : public Desktop {
   /// Hands an event to the program; false while it is still at another one or a box is open.
   bool deliver(const Event& event);
   void deliverDueTicks();
-  void showBox(QMessageBox::Icon icon, std::string_view text);
+  void showBox(MessageBox::Kind kind, std::string_view text);
   FormWindow& windowOf(Form& form);
   void endBySystem();
 
