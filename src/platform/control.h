@@ -67,9 +67,10 @@ struct Label : Box {
   Font font;
   Alignment alignment = Alignment::Left;
   bool bordered = false;
-  bool opaque = true;    ///< painted on its back colour, else on what lies behind it
-  bool link = false;     ///< the pointer over it is a hand, and it can be pressed
-  bool scrolls = false;  ///< a text that may be longer than its box
+  bool opaque = true;     ///< painted on its back colour, else on what lies behind it
+  bool link = false;      ///< the pointer over it is a hand, and it can be pressed
+  bool scrolls = false;   ///< a text that may be longer than its box
+  bool foremost = false;  ///< must be read: a real desktop paints it in front of everything
   Color backColor, foreColor;
   bool operator==(const Label&) const = default;
 };

@@ -57,6 +57,9 @@ struct Form {
   Color backColor;
   const Box* whole = nullptr;  ///< what a window of any size shows all of, in its middle
   double growth = 1;           ///< how many times larger the player may make that
+  /// Has its upper left corner where that of the pinned controls shall be if they cannot keep their
+  /// place without lying on `whole`.
+  const Box* corner = nullptr;
   /// Whether the window is to open at `left` and `top` if the screen has room for it there; else
   /// the desktop finds it a place near the middle of the main window.
   bool placed = false;

@@ -9,6 +9,12 @@ namespace {
 
 constexpr int labelPadding = 2;  // pixels beside a text that is not centred
 
+/// Widgets lie in front of all that is painted, and there some labels in front of the rest.
+int height(const Control& control) {
+  if (isWidget(control)) return 2;
+  return control.kind == ControlKind::Label && static_cast<const Label&>(control).foremost ? 1 : 0;
+}
+
 /// Makes a picture, one window or frame at a time.
 class Maker {
  public:
@@ -130,7 +136,23 @@ Dots Item::bounds() const {
     return place.grown(view.border(shape->borderWidth) + 1);
   }
   if (std::holds_alternative<Line>(look) || control->parent != nullptr) return place;
-  return place.joined(room.grown(type));
+  return place.joined(room.grown(2 * type, type));
+}
+
+Views viewsOf(const Form& form, const Dots& window, double ratio) {
+  const View own = View::plain(ratio);
+  if (form.whole == nullptr) return {own, own, window};
+  const View table = View::fitted(*form.whole, window.width, window.height, ratio, form.growth);
+  Dots pinned;
+  for (const Control* control : form.controls) {
+    if (!control->pinned || control->kind == ControlKind::Line) continue;
+    pinned = pinned.joined(own.box(static_cast<const Box&>(*control)));
+  }
+  if (form.corner == nullptr || !pinned.meets(table.box(*form.whole))) return {table, own, window};
+  const Dots corner = table.box(*form.corner);
+  const double left = corner.left - pinned.left;
+  const double top = corner.top - pinned.top;
+  return {table, {own.dotsPerTwip, left, top}, window};
 }
 
 Dots Views::placeOf(const Box& box) const {
@@ -150,7 +172,10 @@ Picture pictureOf(const Form& form, const Views& views,
                   const std::function<Position(const Frame&)>& seenAt) {
   Picture picture;
   picture.reserve(form.controls.size() * 5);
-  Maker(views, seenAt, picture).add(form.controls, nullptr);
+  std::vector<Control*> controls = form.controls;
+  std::stable_sort(controls.begin(), controls.end(),
+                   [](const Control* a, const Control* b) { return height(*a) < height(*b); });
+  Maker(views, seenAt, picture).add(controls, nullptr);
   return picture;
 }
 

@@ -35,7 +35,7 @@ struct Item {
 
   bool operator==(const Item&) const = default;
   /// Nothing of it is painted outside: borders and shadows are inside too, and a text that even in
-  /// its smallest type is too large for its room has a line more on each side.
+  /// its smallest type is too large for its room has some more on each side.
   [[nodiscard]] Dots bounds() const;
 };
 
@@ -55,6 +55,9 @@ struct Views {
   /// A control's box, also inside a frame.
   [[nodiscard]] Dots placeOf(const Box& box) const;
 };
+
+/// `window` is all of it, with `ratio` dots to a pixel.
+[[nodiscard]] Views viewsOf(const Form& form, const Dots& window, double ratio);
 
 /// Whether the player presses, types or scrolls there, so that it is more than painted.
 [[nodiscard]] bool isWidget(const Control& control);

@@ -65,6 +65,7 @@ class Scaler {
 
 void scaleTable(TableControls& table, const Scaler& by) {
   by.scale(table.whole);
+  by.scale(table.panels);
   for (PerSide<Counter>* counters : {&table.cardsLeft, &table.passes}) {
     for (auto& [heading, count] : counters->values) {
       by.show(heading);

@@ -40,7 +40,10 @@ struct Counter {
 
 /// What lies under and around the cards.
 struct TableControls {
-  Shape whole;  ///< the area that table and hands take up; on no window itself
+  // On no window themselves:
+  Shape whole;   ///< the area that table and hands take up
+  Shape panels;  ///< has the upper left corner of the panels
+
   std::array<Line, 4> border;
   std::array<Line, 2> leftGuides, rightGuides;
   Shape centre;                  ///< the square of the 0-0

@@ -87,6 +87,7 @@ void designCard(CardControls& card) {
 
 void designStatusAndDiscard(MainWindow& w) {
   design(w.status,  {840, 5640, 4815, 495}, "Same Number. Choose One", statusLine);
+  w.status.foremost = true;
   design(w.discard, {50000, 9360, 135, 225}, "Discard");
   w.discard.font = discardFont;
   w.discard.backColor = buttonGreen;
@@ -263,6 +264,8 @@ void MainWindow::designControls() {
   form.maximized = true;
   place(table.whole, {240, 120, 14640, 10495});
   form.whole = &table.whole;
+  place(table.panels, {600, 1800, 2535, 2895});
+  form.corner = &table.panels;
   form.timer = &timer;
   form.defaultFocus = &discard;
   form.escape = {&choice.cancel, &sizePanel.ok};

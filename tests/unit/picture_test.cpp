@@ -5,6 +5,7 @@
 #include <array>
 #include <iterator>
 #include <random>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -67,10 +68,10 @@ TEST(Dots, KeepTheLargestPieceBesideOthers) {
   EXPECT_TRUE(room.beside({0, 0, 90, 90}).empty());
 }
 
-/// All windows of a program, with everything in them that can be seen.
+/// All windows of a program, with everything in them that is painted.
 std::vector<const Form*> showEverything(MainWindow& w) {
   for (Form* form : {&w.form, &w.about.form, &w.statistics.form}) {
-    for (Control* control : form->controls) control->visible = true;
+    for (Control* control : form->controls) control->visible = !isWidget(*control);
   }
   return {&w.form, &w.about.form, &w.statistics.form};
 }
@@ -127,6 +128,45 @@ TEST(Picture, HasEverythingOfEveryWindowInItsPlace) {
     }
   }
   EXPECT_GT(freeTexts, 20);
+}
+
+// In a window that is too small for panels beside the table they lie inside its border, and hide
+// neither the counters nor the status line, whatever stands behind what.
+TEST(Picture, KeepsPanelsOffWhatMustBeRead) {
+  for (const char* settings : {"1/1/99\r\n", "1/1/70\r\n"}) {
+    HeadlessDesktop desktop;
+    desktop.world.files = {{"wdx.sys", settings}, {"sys32rtn.dat", "547153507498\r\n"}};
+    Program program(desktop);
+    program.start();
+    MainWindow& w = program.window();
+    w.sizePanel.show(true);
+    w.status.visible = true;
+    w.form.sendToBack(w.status);
+    for (const auto& [width, height, ratio] : {std::tuple{640, 440, 1.0},
+                                               {800, 560, 1.0},
+                                               {1366, 729, 1.0},
+                                               {1080, 1880, 1.0},
+                                               {2048, 1450, 2.0}}) {
+      SCOPED_TRACE(std::string(settings) + std::to_string(width));
+      const Views views = viewsOf(w.form, {0, 0, width, height}, ratio);
+      const Dots ground =
+          views.placeOf(w.sizePanel.ground).joined(views.placeOf(w.sizePanel.heading));
+      EXPECT_EQ(ground.width, 137 * ratio);
+      EXPECT_TRUE(views.window.holds(ground));
+      for (const auto& passes : {w.table.passes[Side::Computer], w.table.passes[Side::Player]}) {
+        EXPECT_FALSE(ground.meets(views.placeOf(passes.heading)));
+        EXPECT_FALSE(ground.meets(views.placeOf(passes.count)));
+      }
+      const Dots table =
+          views.table.line(w.table.border[0]).joined(views.table.line(w.table.border[1]));
+      EXPECT_TRUE(table.holds(ground) || !table.meets(ground));
+      const Picture picture = pictureOf(w.form, views, [](const Frame& frame) {
+        return Position{frame.left, frame.top};
+      });
+      EXPECT_EQ(picture.back().control, &w.status);
+      EXPECT_EQ(picture.back().room, picture.back().place);
+    }
+  }
 }
 
 /// What is painted on a dot, back to front.

@@ -21,11 +21,7 @@ Canvas::Canvas(Form& form, ControlEvents& events, QWidget& parent)
 Views Canvas::viewsNow() const {
   const double ratio = devicePixelRatioF();
   const QSize size = (QSizeF(this->size()) * ratio).toSize();
-  const Dots window{0, 0, size.width(), size.height()};
-  const View plain = View::plain(ratio);
-  if (form_.whole == nullptr) return {plain, plain, window};
-  return {View::fitted(*form_.whole, size.width(), size.height(), ratio, form_.growth), plain,
-          window};
+  return viewsOf(form_, {0, 0, size.width(), size.height()}, ratio);
 }
 
 void Canvas::flush() {

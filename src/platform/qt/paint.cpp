@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "platform/qt/look.h"
 
@@ -21,26 +22,44 @@ int flagOf(Alignment alignment) {
   return alignment == Alignment::Right ? Qt::AlignRight : Qt::AlignLeft;
 }
 
-/// Writes a caption in the largest font, from `font` down to `smallest` dots, in which it fits its
-/// room, or else in the smallest. It is broken into lines where the room is high enough for them.
-void write(QPainter& painter, const QRect& room, QString text, QFont font, int smallest,
-           Alignment alignment) {
-  if (room.isEmpty()) return;
+/// How a caption is written.
+struct Lettering {
+  QString text;
+  QFont font;
+  int flags = 0;
+  QRect place;
+};
+
+/// The largest from `font` down to `smallest` dots in which the text fits its room, in one line or
+/// broken into several; if none does, the one that stands out the least.
+Lettering letteringFor(const QRect& room, QString text, QFont font, int smallest,
+                       Alignment alignment) {
   while (text.endsWith(' ')) text.chop(1);  // these may stand outside
-  const auto oneLine = [&] { return room.height() < linesToBreak * QFontMetrics(font).height(); };
-  const bool inTheMiddle = alignment == Alignment::Centre || oneLine();
+  const bool inTheMiddle =
+      alignment == Alignment::Centre || room.height() < linesToBreak * QFontMetrics(font).height();
   const int place = flagOf(alignment) | (inTheMiddle ? Qt::AlignVCenter : Qt::AlignTop);
-  int flags = place;
-  QSize all;
-  for (int size = std::max(font.pixelSize(), smallest); size >= smallest; --size) {
+  Lettering best;
+  int least = std::numeric_limits<int>::max();
+  for (int size = std::max(font.pixelSize(), smallest); size >= smallest && least > 0; --size) {
     font.setPixelSize(size);
-    flags = place | (oneLine() ? 0 : Qt::TextWordWrap);
-    all = QFontMetrics(font).boundingRect(room, flags, text).size();
-    if (all.width() <= room.width() && all.height() <= room.height()) break;
+    for (const int flags : {place, place | Qt::TextWordWrap}) {
+      const QRect whole = QFontMetrics(font).boundingRect(room, flags, text);
+      // There is more to spare beside a label than above and below.
+      const int out =
+          std::max({0, whole.width() - room.width(), 3 * (whole.height() - room.height())});
+      if (out >= least) continue;
+      least = out;
+      best = {text, font, flags, whole};
+    }
   }
-  if (2 * room.height() < all.height()) return;  // something else stands in its place
-  painter.setFont(font);
-  painter.drawText(room, flags | Qt::TextDontClip, text);
+  return best;
+}
+
+void write(QPainter& painter, const QRect& room, const Lettering& lettering) {
+  // In the place of a text with less room than that stands something else.
+  if (room.isEmpty() || 2 * room.height() < lettering.place.height()) return;
+  painter.setFont(lettering.font);
+  painter.drawText(room, lettering.flags | Qt::TextDontClip, lettering.text);
 }
 
 void paintLook(QPainter& painter, const Item& item, const Line& line) {
@@ -141,22 +160,29 @@ void paintDigit(QPainter& painter, const Item& item, const QString& text, QFont 
                    text);
 }
 
+void paintGround(QPainter& painter, const QRect& place, int edge, const Label& label) {
+  if (label.opaque) painter.fillRect(place, toColor(label.backColor));
+  if (!label.bordered) return;
+  const QRegion inside(place.adjusted(edge, edge, -edge, -edge));
+  for (const QRect& side : QRegion(place) - inside) painter.fillRect(side, Qt::black);
+}
+
 void paintLook(QPainter& painter, const Item& item, const Label& label) {
-  if (label.opaque) painter.fillRect(toRect(item.place), toColor(label.backColor));
-  if (label.bordered) {
-    const int edge = item.view.border(1);
-    const QRegion inside(toRect(item.place.grown(-edge)));
-    for (const QRect& side : QRegion(toRect(item.place)) - inside)
-      painter.fillRect(side, Qt::black);
-  }
+  const QRect place = toRect(item.place);
+  const int edge = label.bordered ? item.view.border(1) : 0;
   const QString text = toText(label.caption);
-  painter.setPen(toColor(label.foreColor));
   const QFont font = toFont(label.font, item.view.length(1));
+  painter.setPen(toColor(label.foreColor));
   if (label.parent != nullptr && text.size() == 1) {
+    paintGround(painter, place, edge, label);
     paintDigit(painter, item, text, font);
-  } else {
-    write(painter, toRect(item.room), text, font, item.type, label.alignment);
+    return;
   }
+  const QRect room = toRect(item.room);
+  const Lettering lettering = letteringFor(room, text, font, item.type, label.alignment);
+  // What is too small for its text grows around it.
+  paintGround(painter, place | lettering.place.adjusted(-edge, -edge, edge, edge), edge, label);
+  write(painter, room, lettering);
 }
 
 }  // namespace
@@ -209,8 +235,17 @@ void paintButton(QPushButton& widget, const Button& button, const View& view) {
   const int margin = View::plain(ratio).border(2);
   const QRect room = place.toRect().adjusted(margin, 0, -margin, 0);
   // A button that became small with the table has room for more than a caption in proportion.
-  write(painter, room, widget.text(), toFont(button.font, std::max(view.length(1), ratio)),
-        View::plain(ratio).border(smallestType), Alignment::Centre);
+  const QFont font = toFont(button.font, std::max(view.length(1), ratio));
+  const int smallest = View::plain(ratio).border(smallestType);
+  write(painter, room, letteringFor(room, widget.text(), font, smallest, Alignment::Centre));
+}
+
+QSize smallestSize(const Button& button) {
+  QFont font = toFont(button.font, 1);
+  font.setPixelSize(static_cast<int>(smallestType));
+  const QSize text = QFontMetrics(font).size(0, toText(button.caption));
+  constexpr int beside = 4, above = 2;  // pixels
+  return text.isEmpty() ? text : text + QSize(2 * beside, 2 * above);
 }
 
 }  // namespace mevracard

@@ -22,4 +22,7 @@ void paint(QPainter& painter, const Item& item);
 /// Paints a button; `view` is the one that it was placed through.
 void paintButton(QPushButton& widget, const Button& button, const View& view);
 
+/// The size in pixels of the smallest button whose caption can be read.
+[[nodiscard]] QSize smallestSize(const Button& button);
+
 }  // namespace mevracard

@@ -109,6 +109,11 @@ QRect Widgets::placeOf(const Box& box) const {
   const QRect dots = toRect(views_.placeOf(box));
   const QSize size = (QSizeF(dots.size()) / ratio).toSize();
   QRect place((QPointF(dots.topLeft()) / ratio).toPoint(), size);
+  if (box.kind == ControlKind::Button) {
+    const QPoint middle = place.center();
+    place.setSize(size.expandedTo(smallestSize(static_cast<const Button&>(box))));
+    place.moveCenter(middle);
+  }
   // A text has the room down to the window's lower edge. A button that would stand on it stands at
   // its lower end instead, and the text ends above.
   if (isText(box)) place.setBottom(canvas_.height() - textMargin);
