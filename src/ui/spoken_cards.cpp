@@ -25,7 +25,7 @@ std::string nameOf(const Card& card) {
 }
 
 std::string cardInHand(const GameState& s, int slot) {
-  const std::string name = nameOf(s.card(slot));
+  std::string name = nameOf(s.card(slot));
   if (s.openings == 0 || s.gameOver) return name;
   const bool rightTop = fitsAt(s, slot, End::RightTop);
   const bool leftBottom = fitsAt(s, slot, End::LeftBottom);

@@ -31,6 +31,7 @@ std::string turnWords(const GameState& s) {
 }
 
 std::string standing(const GameState& s) {
+  if (s.choiceOpen) return choiceWords(s);
   return s.gameOver ? "The game is over. " : turnWords(s);
 }
 
@@ -45,13 +46,13 @@ std::string passWords() {
 
 std::string shownCard(const GameState& s) {
   const Card& card = s.card(s.playCard);
-  std::string words = "Shown: " + nameOf(card) + ". ";
+  const std::string shown = "Shown: " + nameOf(card) + ". ";
   for (const End end : {End::RightTop, End::LeftBottom}) {
     if (!card.bears(s.openNumber[end])) continue;
     const std::string number = std::to_string(s.openNumber[end]);
-    return words + "Its " + number + " fits the " + number + " at " + nameOf(end) + ". ";
+    return shown + ("Its " + number) + (" fits the " + number) + (" at " + nameOf(end)) + ". ";
   }
-  return words + "It does not fit. ";
+  return shown + "It does not fit. ";
 }
 
 std::string demonstrationBegins() {
