@@ -8,7 +8,7 @@ namespace mevracard {
 void openSizePanel(MainWindow& w) {
   w.state.sizePanelOpen = true;
   w.sizePanel.show(true);
-  w.form.giveFocus(w.sizePanel.bar);
+  if (w.desktop.speaks()) w.form.giveFocus(w.sizePanel.bar);  // who does not see it is taken there
   w.menu.howToPlay.enabled = false;
   sendStatusToBack(w);
 }
