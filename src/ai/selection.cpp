@@ -164,7 +164,9 @@ std::optional<Move> layDoubleOrCoverDanger(GameState& s) {
   return std::nullopt;
 }
 
-/// Rule F: the first card that fits without opening the number of a double of the player's.
+/// Rule F: the first card that fits without opening the danger, a double of the player's.
+/// QUIRK-45: which is but one number, met from 6 down. The first card that will do at 6 is laid, so
+/// the 6-6 alone is guarded against, and other doubles only where every card that fits opens a 6.
 std::optional<Move> openNoDanger(GameState& s) {
   s.danger = noNumber;
   for (int n = 6; n >= 0; --n) {
