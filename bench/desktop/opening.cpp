@@ -1,6 +1,7 @@
-// One opening, for compare_openings.py: `opening WHAT SPAWNED` opens the game, or an empty
-// maximized window with the same message box, and prints the microseconds from SPAWNED (on the
-// monotonic clock) to the last thing painted, then the proportional memory in KiB.
+// One opening, for compare_openings.py: `opening WHAT SPAWNED` opens the "game", the game for the
+// "first" time, or an "empty" maximized window with the same message box, and prints the
+// microseconds from SPAWNED (on the monotonic clock) to the last thing painted, then the
+// proportional memory in KiB.
 #include <QApplication>
 #include <QEvent>
 #include <QFile>
@@ -15,6 +16,7 @@
 
 #include "app/program.h"
 #include "platform/qt/run.h"
+#include "store/settings.h"
 #include "store/statistics.h"
 
 namespace mevracard {
@@ -63,14 +65,17 @@ class Watch final : public QObject {
   QTimer quiet_;
 };
 
-/// The player's files as at any start but the first, which waits for the disk.
+/// The player's files as at any start but the first.
 void fill(const QTemporaryDir& home) {
   std::ofstream(home.filePath("wdx.sys").toStdString()) << "1/1/99\r\n";
   std::ofstream(home.filePath("sys32rtn.dat").toStdString()) << emptyStatisticsText();
 }
 
-int openTheGame(char** argv, const QTemporaryDir& home, long long spawned) {
-  const DesktopSetup setup{argv, home.path().toStdString(), {}};
+int openTheGame(char** argv, const QString& home, long long spawned) {
+  const DesktopSetup setup{argv,
+                           home.toStdString(),
+                           {{std::string(settingsFile), defaultSettingsText()},
+                            {std::string(statisticsFile), emptyStatisticsText()}}};
   return runOnDesktop(setup, [&](Desktop& desktop, const std::function<void()>& loop) {
     const Watch watch(spawned);
     Program program(desktop);
@@ -99,6 +104,8 @@ int main(int argc, char** argv) {
   const long long spawned = std::atoll(argv[2]);
   const QTemporaryDir home;  // for the empty window too, so that both have waited for it
   mevracard::fill(home);
-  return std::string_view(argv[1]) == "game" ? mevracard::openTheGame(argv, home, spawned)
-                                             : mevracard::openAnEmptyWindow(1, argv, spawned);
+  const std::string_view what = argv[1];
+  if (what == "empty") return mevracard::openAnEmptyWindow(1, argv, spawned);
+  const QString folder = what == "first" ? home.filePath("new") : home.path();
+  return mevracard::openTheGame(argv, folder, spawned);
 }

@@ -130,7 +130,10 @@ Program::Program(Desktop& desktop) : window_(desktop) {
 }
 
 void Program::start() {
-  run([this] { startGame(window_); });
+  run([this] {
+    startGame(window_);
+    window_.desktop.completeFiles();
+  });
 }
 
 void Program::handle(const Event& event) {

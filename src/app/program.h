@@ -12,7 +12,8 @@ class Program {
   /// Attaches the windows to the desktop, which must outlive the program. Nothing is shown yet.
   explicit Program(Desktop& desktop);
 
-  /// Loads and shows the main window, deals and lays the 0-0.
+  /// Loads and shows the main window, deals and lays the 0-0. The data files are there when it
+  /// returns; that they cannot be made is reported to the player.
   void start();
   /// Runs the handler of an event, then presents. An error in a handler is reported to the player
   /// and the game goes on; nothing is thrown.

@@ -78,13 +78,16 @@ class Desktop {
   virtual void seedRandom(double seed) = 0;
   [[nodiscard]] virtual double random() = 0;
 
-  /// A data file's bytes. Throws PlatformError if it is missing or cannot be read.
+  /// A data file's bytes. Throws PlatformError if it is missing or cannot be read. At a first start
+  /// it may be the text of a default file that does not lie on the disk yet.
   [[nodiscard]] virtual std::string readFile(std::string_view name) = 0;
   /// Replaces a data file as a whole. Throws PlatformError; the old file is then untouched.
   virtual void writeFile(std::string_view name, std::string_view text) = 0;
   /// The same, only while the file still holds `expected`; false if another program changed it.
   [[nodiscard]] virtual bool exchangeFile(std::string_view name, std::string_view expected,
                                           std::string_view text) = 0;
+  /// Sees to it that the default files lie on the disk. Throws PlatformError.
+  virtual void completeFiles() = 0;
   /// Opens an address in a new browser window. Throws PlatformError.
   virtual void openAddress(std::string_view address) = 0;
 };

@@ -31,6 +31,7 @@ class DiskDesktop : public HeadlessDesktop {
                     std::string_view text) override {
     return files_.exchange(name, expected, text);
   }
+  void completeFiles() override { files_.complete(); }
 
  private:
   DataFiles files_;

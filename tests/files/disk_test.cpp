@@ -71,12 +71,44 @@ TEST(DataFiles, AreReplacedWholeOrNotAtAll) {
   EXPECT_EQ(entriesIn(home.game()), 3);
 }
 
+struct Hindrance {
+  const char* call;
+  int error;
+  bool passes;
+};
+
+// What goes by is waited for, once; what does not is told, and not tried for ever.
+TEST(DataFiles, WaitForWhatPasses) {
+  const Home home;
+  fs::create_directory(home.game());
+  const DataFiles files(home.game(), {});
+  files.write("record", "one");
+  for (const Hindrance& h : {Hindrance{"flock", EWOULDBLOCK, true},
+                             {"flock", EINTR, true},
+                             {"flock", ENOLCK, false},
+                             {"read", EINTR, true},
+                             {"read", EIO, false},
+                             {"write", EINTR, true}}) {
+    SCOPED_TRACE(std::string(h.call) + " " + std::to_string(h.error));
+    const FailingCalls failing(h.call, 1, false, h.error);
+    bool done = false;
+    try {
+      done = files.exchange("record", "one", "one");
+    } catch (const PlatformError&) {
+      done = false;
+    }
+    EXPECT_EQ(done, h.passes);
+    EXPECT_TRUE(failing.happened());
+  }
+}
+
 struct Situation {
   const char* name;
   std::string settings, record;        ///< before; both empty: a first start
   std::string newSettings, newRecord;  ///< as they are written
   void (*act)(Program&);               ///< null: what is looked at is the start itself
   bool told;                           ///< whether the rule has a message for a failure
+  int syncs;                           ///< what has to lie on the disk, each file and its name
 };
 
 const std::string someGames = withResult(emptyStatisticsText(), GameResult::Won);
@@ -86,14 +118,14 @@ const Situation situations[] = {
      [](Program& p) {
        p.handle({EventKind::Menu, &p.window().form, nullptr, &p.window().menu.playerLevel1, 0});
      },
-     true},
+     true, 2},
     {"result", "2/1/80\r\n", someGames, "2/1/80\r\n", withResult(someGames, GameResult::Lost),
      [](Program& p) {
        p.handle({EventKind::SystemEnd, &p.window().form, nullptr, nullptr, 0});
      },
-     false},
-    {"files anew", "torn", someGames, defaultSettings, emptyStatisticsText(), nullptr, true},
-    {"first start", "", "", defaultSettings, emptyStatisticsText(), nullptr, true},
+     false, 2},
+    {"files anew", "torn", someGames, defaultSettings, emptyStatisticsText(), nullptr, true, 4},
+    {"first start", "", "", defaultSettings, emptyStatisticsText(), nullptr, true, 3},
 };
 
 /// Whether a call failed at all: the last round of each kind goes through undisturbed.
@@ -127,11 +159,29 @@ bool playWithFailure(const Situation& situation, const char* call, int first, bo
   EXPECT_LE(errors, 1);
   EXPECT_TRUE(situation.told || errors == 0);
   EXPECT_TRUE(written || !situation.told || errors == 1);
+  if (firstStart && written) {
+    EXPECT_EQ(fs::status(home.game()).permissions(), fs::perms::owner_all);
+  }
   const int files =
       fs::exists(home.game()) ? (settings.empty() ? 0 : 1) + (record.empty() ? 0 : 1) : 0;
   EXPECT_EQ(entriesIn(home.game()), files);
   EXPECT_EQ(entriesIn(home.root()), fs::exists(home.game()) ? 1 : 0);
   return happened;
+}
+
+// The disk must not keep the player from a first look: until the opening's box has been closed
+// nothing is written, and all of it then, before anything of the game is.
+TEST(DataFiles, AreMadeAfterTheOpening) {
+  const Home home;
+  int before = 0;
+  DiskDesktop desktop(home.game(), [&](std::string_view line) {
+    before += line.starts_with("> message") ? 1 + entriesIn(home.root()) : 0;
+  });
+  Program program(desktop);
+  program.start();
+  EXPECT_EQ(before, 1);
+  EXPECT_EQ(entriesIn(home.game()), 2);
+  EXPECT_EQ(desktop.readFile(settingsFile), defaultSettings);
 }
 
 // Each call fails in turn, alone and from then on: either file is old or new and whole, nothing
@@ -145,8 +195,14 @@ TEST(DataFiles, StayWholeWhateverFails) {
           SCOPED_TRACE(std::string(situation.name) + ": " + call + " " + std::to_string(first) +
                        (onwards ? " and on" : ""));
           ASSERT_LT(first, 100);
-          if (!playWithFailure(situation, call, first, onwards)) break;
-          failed.insert(call);
+          if (playWithFailure(situation, call, first, onwards)) {
+            failed.insert(call);
+            continue;
+          }
+          if (!onwards && call == std::string_view("fsync")) {
+            EXPECT_EQ(first - 1, situation.syncs);
+          }
+          break;
         }
       }
     }
@@ -195,7 +251,8 @@ TEST(DataFiles, OutliveAHundredKills) {
       ASSERT_EQ(bytesOf(home.record()).size(), emptyStatisticsText().size());
       ASSERT_GE(statisticsOf(bytesOf(home.record())).lost, lost);
     }
-    const DiskDesktop next(home.game());
+    DiskDesktop next(home.game());
+    next.completeFiles();
     ASSERT_EQ(entriesIn(home.game()), 2);
     ASSERT_EQ(entriesIn(home.root()), 1);
     lost = statisticsOf(bytesOf(home.record())).lost;

@@ -1,12 +1,12 @@
 // The program's own definitions of some system calls, found before the library's.
 #include "testing/failing_calls.h"
 
-#include <cerrno>
 #include <cstdarg>
 #include <cstdio>
 #include <utility>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -17,6 +17,7 @@ struct Order {
   std::string call;
   int first = 0;
   bool onwards = false;
+  int error = EIO;
   int calls = 0;
 };
 
@@ -27,7 +28,7 @@ bool fails(const char* call) {
   if (order.call != call) return false;
   ++order.calls;
   const bool failing = order.onwards ? order.calls >= order.first : order.calls == order.first;
-  if (failing) errno = EIO;
+  if (failing) errno = order.error;
   return failing;
 }
 
@@ -38,8 +39,8 @@ int run(const char* call, long number, Arguments... arguments) {
 
 }  // namespace
 
-FailingCalls::FailingCalls(std::string call, int first, bool onwards) {
-  order = {std::move(call), first, onwards, 0};
+FailingCalls::FailingCalls(std::string call, int first, bool onwards, int error) {
+  order = {std::move(call), first, onwards, error, 0};
 }
 FailingCalls::~FailingCalls() { order = {}; }
 bool FailingCalls::happened() const { return order.calls >= order.first; }
@@ -55,18 +56,25 @@ int open(const char* path, int flags, ...) {
   va_end(rest);
   // What cannot be read is another matter: the game begins with new files then.
   const bool reads = (flags & (O_ACCMODE | O_DIRECTORY)) == O_RDONLY;
-  return mevracard::run(reads ? "read" : "open", SYS_openat, AT_FDCWD, path, flags, mode);
+  return mevracard::run(reads ? "look" : "open", SYS_openat, AT_FDCWD, path, flags, mode);
 }
 int close(int file) {
   // What fails is the report: the file is closed all the same.
   const int closed = static_cast<int>(::syscall(SYS_close, file));
   return mevracard::fails("close") ? -1 : closed;
 }
+ssize_t read(int file, void* bytes, std::size_t count) {
+  if (mevracard::fails("read")) return -1;
+  return ::syscall(SYS_read, file, bytes, count);
+}
 ssize_t write(int file, const void* bytes, std::size_t count) {
   if (mevracard::fails("write")) return -1;
   return ::syscall(SYS_write, file, bytes, count);
 }
 int fsync(int file) { return mevracard::run("fsync", SYS_fsync, file); }
+int flock(int file, int operation) noexcept {
+  return mevracard::run("flock", SYS_flock, file, operation);
+}
 int mkdir(const char* path, mode_t mode) noexcept {
   return mevracard::run("mkdir", SYS_mkdirat, AT_FDCWD, path, mode);
 }

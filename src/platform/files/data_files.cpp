@@ -16,6 +16,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr const char* notWritten = " cannot be written: ";
+
 bool isThere(const fs::path& path) {
   std::error_code unknown;
   return fs::exists(path, unknown);
@@ -35,9 +37,10 @@ void removeMade(const fs::path& directory, const std::vector<DefaultFile>& files
 
 DataFiles::DataFiles(const fs::path& directory, std::vector<DefaultFile> defaults)
     : directory_(fs::absolute(directory / ".").lexically_normal().parent_path()),
-      defaults_(std::move(defaults)) {
+      defaults_(std::move(defaults)),
+      promised_(!isThere(directory_)) {
+  if (promised_) return;
   try {
-    makeDirectory();
     const DirectoryLock lock(directory_);
     for (const DefaultFile& file : defaults_) ::unlink(beside(directory_ / file.name).c_str());
   } catch (const PlatformError&) {  // NOLINT(bugprone-empty-catch)
@@ -66,8 +69,27 @@ void DataFiles::makeDirectory() const {
   }
 }
 
+void DataFiles::complete() {
+  promised_ = false;
+  try {
+    makeDirectory();
+  } catch (const PlatformError& error) {
+    std::string failures;
+    for (const DefaultFile& file : defaults_) {
+      if (!failures.empty()) failures += '\n';
+      failures += fileError(file.name, notWritten, error.what()).what();
+    }
+    throw PlatformError(failures);
+  }
+}
+
 std::string DataFiles::read(std::string_view name) const {
   try {
+    if (promised_ && !isThere(directory_)) {
+      for (const DefaultFile& file : defaults_) {
+        if (file.name == name) return file.text;
+      }
+    }
     return readFile(directory_ / name);
   } catch (const PlatformError& error) {
     throw fileError(name, " cannot be read: ", error.what());
@@ -81,20 +103,21 @@ void DataFiles::write(std::string_view name, std::string_view text) const {
     replaceFile(directory_ / name, text);
     lock.sync();
   } catch (const PlatformError& error) {
-    throw fileError(name, " cannot be written: ", error.what());
+    throw fileError(name, notWritten, error.what());
   }
 }
 
 bool DataFiles::exchange(std::string_view name, std::string_view expected,
                          std::string_view text) const {
   try {
+    if (promised_) makeDirectory();
     const DirectoryLock lock(directory_);
     if (readFile(directory_ / name) != expected) return false;
     replaceFile(directory_ / name, text);
     lock.sync();
     return true;
   } catch (const PlatformError& error) {
-    throw fileError(name, " cannot be written: ", error.what());
+    throw fileError(name, notWritten, error.what());
   }
 }
 

@@ -13,10 +13,13 @@ namespace mevracard {
 /// two programs that write at once neither undoes the other's work unseen.
 class DataFiles final {
  public:
-  /// A directory that does not exist is made, with the default files in it; one that does exist
-  /// is taken as it is, but for what a killed program left of a default file half written. Should
-  /// this fail, the first read or write says so.
+  /// A directory that does not exist counts as one with the default files in it, which is made
+  /// later: waiting for the disk would keep the player from a first look at the game. One that does
+  /// exist is taken as it is, but for what a killed program left of a default file half written.
   DataFiles(const std::filesystem::path& directory, std::vector<DefaultFile> defaults);
+
+  /// Makes the directory that is missing. If that fails the default files are missing, too.
+  void complete();
 
   /// Throws PlatformError with the file's name and the reason, as all of them do.
   [[nodiscard]] std::string read(std::string_view name) const;
@@ -33,6 +36,7 @@ class DataFiles final {
 
   std::filesystem::path directory_;
   std::vector<DefaultFile> defaults_;
+  bool promised_;  ///< what is missing counts as there
 };
 
 }  // namespace mevracard

@@ -71,6 +71,7 @@ class HeadlessDesktop : public Desktop {
   void writeFile(std::string_view name, std::string_view text) override;
   [[nodiscard]] bool exchangeFile(std::string_view name, std::string_view expected,
                                   std::string_view text) override;
+  void completeFiles() override {}
   void openAddress(std::string_view address) override { tell("browse", address); }
 
  private:

@@ -37,9 +37,13 @@ QtDesktop::QtDesktop(const std::filesystem::path& dataDir, const std::vector<Def
   installVoices();
   // What the first picture does not need waits for a moment.
   constexpr int afterOpening = 250;  // ms
-  QTimer::singleShot(afterOpening, &dueTicks_, [] {
+  QTimer::singleShot(afterOpening, &dueTicks_, [this] {
     applyIcon();
     askAboutMotion();
+    try {
+      files_.complete();
+    } catch (const PlatformError&) {  // NOLINT(bugprone-empty-catch): told when the program asks
+    }
   });
   QGuiApplication::setQuitOnLastWindowClosed(false);
   dueTicks_.setSingleShot(true);

@@ -17,7 +17,8 @@ namespace mevracard {
 /// The real desktop, on the toolkit's windows. There must be a QApplication, which outlives it.
 class QtDesktop : public Desktop {
  public:
-  /// `dataDir` holds the data files; if it does not exist it is made, with the default files in it.
+  /// `dataDir` holds the data files; if it does not exist it is made, with the default files in it,
+  /// as soon as the game has opened.
   QtDesktop(const std::filesystem::path& dataDir, const std::vector<DefaultFile>& defaults);
   ~QtDesktop() override;
 
@@ -49,6 +50,7 @@ class QtDesktop : public Desktop {
   void writeFile(std::string_view name, std::string_view text) override;
   [[nodiscard]] bool exchangeFile(std::string_view name, std::string_view expected,
                                   std::string_view text) override;
+  void completeFiles() override { files_.complete(); }
   void openAddress(std::string_view address) override;
 
  private:
