@@ -15,6 +15,16 @@ int height(const Control& control) {
   return control.kind == ControlKind::Label && static_cast<const Label&>(control).foremost ? 1 : 0;
 }
 
+/// The items of a frame and its parts, which stand side by side.
+template <typename Items>
+auto partsOf(const Frame& frame, Items& items) {
+  const auto belongs = [&frame](const Item& item) {
+    return item.control == &frame || item.control->parent == &frame;
+  };
+  const auto first = std::find_if(items.begin(), items.end(), belongs);
+  return std::pair{first, std::find_if_not(first, items.end(), belongs)};
+}
+
 /// Makes a picture, one window or frame at a time.
 class Maker {
  public:
@@ -177,6 +187,13 @@ Picture pictureOf(const Form& form, const Views& views,
                    [](const Control* a, const Control* b) { return height(*a) < height(*b); });
   Maker(views, seenAt, picture).add(controls, nullptr);
   return picture;
+}
+
+void keepLook(Picture& picture, const Frame& frame, const Picture& before) {
+  const auto [from, to] = partsOf(frame, before);
+  const auto [first, last] = partsOf(frame, picture);
+  if (from == to || first == last) return;
+  picture.insert(picture.erase(first, last), from, to);
 }
 
 Control* controlAt(const Picture& picture, int x, int y) {

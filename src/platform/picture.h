@@ -66,6 +66,9 @@ struct Views {
 [[nodiscard]] Picture pictureOf(const Form& form, const Views& views,
                                 const std::function<Position(const Frame&)>& seenAt);
 
+/// Lets a frame and its parts look as they did in a picture before.
+void keepLook(Picture& picture, const Frame& frame, const Picture& before);
+
 /// The label or frame that lies in front at a dot; null for none.
 [[nodiscard]] Control* controlAt(const Picture& picture, int x, int y);
 

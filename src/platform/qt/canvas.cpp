@@ -29,7 +29,7 @@ void Canvas::flush() {
   const bool holdsKeyboard = fallback != nullptr && fallback->usable() && !isWidget(*fallback);
   setFocusPolicy(holdsKeyboard ? Qt::TabFocus : Qt::NoFocus);
   if (auto glides = std::exchange(form_.glides, {}); isVisible() && !window()->isMinimized()) {
-    glides_.start(std::move(glides));
+    glides_.start(std::move(glides), picture_);
   }
   repaintChanges();
 }
@@ -39,6 +39,8 @@ void Canvas::repaintChanges() {
   const Picture before = std::exchange(
       picture_,
       pictureOf(form_, views_, [this](const Frame& frame) { return glides_.placeOf(frame); }));
+  if (views_ != viewsBefore) glides_.forgetSeen();
+  glides_.keepWaiting(picture_);
   const Color colorBefore = std::exchange(backColor_, form_.backColor);
   if (views_ != viewsBefore || backColor_ != colorBefore) {
     update();

@@ -22,9 +22,10 @@ Glides::Glides(std::function<void()> changed) : changed_(std::move(changed)) {
   connect(&clock_, &QVariantAnimation::finished, this, &Glides::end);
 }
 
-void Glides::start(std::vector<Glide> glides) {
+void Glides::start(std::vector<Glide> glides, const Picture& seen) {
   if (glides.empty() || motionIsReduced()) return;
   glides_ = std::move(glides);
+  seen_ = seen;
   const int count = static_cast<int>(glides_.size());
   clock_.stop();
   clock_.setStartValue(0.0);
@@ -38,6 +39,7 @@ void Glides::end() {
   if (glides_.empty()) return;
   QCoreApplication::instance()->removeEventFilter(this);
   glides_.clear();
+  seen_.clear();
   clock_.stop();
   changed_();
 }
@@ -53,6 +55,12 @@ Position Glides::placeOf(const Frame& frame) const {
   const auto way = static_cast<float>(QEasingCurve(QEasingCurve::OutQuad).valueForProgress(turn));
   return {std::lerp(glide->from.left, glide->to.left, way),
           std::lerp(glide->from.top, glide->to.top, way)};
+}
+
+void Glides::keepWaiting(Picture& picture) const {
+  for (std::size_t i = 0; i < glides_.size(); ++i) {
+    if (clock_.currentValue().toDouble() < double(i)) keepLook(picture, *glides_[i].frame, seen_);
+  }
 }
 
 bool Glides::eventFilter(QObject* watched, QEvent* event) {
