@@ -25,6 +25,7 @@ TOOLKIT_ALLOWED = (
     "tools/stage/",
     "tests/desktop/",
     "tests/monkey/",
+    "tests/motion/",
     "tests/painting/",
     "tests/screens/",
     "bench/desktop/",
