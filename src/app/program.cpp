@@ -1,5 +1,6 @@
 #include "app/program.h"
 
+#include <array>
 #include <functional>
 
 #include "play/about.h"
@@ -22,6 +23,8 @@ namespace {
 
 using enum EventKind;
 using Step = void (*)(MainWindow& w);
+using StepWithNumber = void (*)(MainWindow& w, int number);
+using StepWithKey = void (*)(MainWindow& w, const Control& focused, int key);
 
 /// Holds an event against one thing after the other and runs the step of the one it came from.
 struct On {
@@ -31,36 +34,40 @@ struct On {
   void operator()(EventKind kind, const Form& form, Step step) const {
     if (event.kind == kind && event.form == &form) step(w);
   }
+  void operator()(EventKind kind, const Form& form, StepWithKey step) const {
+    const bool here = event.kind == kind && event.form == &form && event.control != nullptr;
+    if (here) step(w, *event.control, event.value);
+  }
   void operator()(EventKind kind, const Control& control, Step step) const {
     if (event.kind == kind && event.control == &control) step(w);
+  }
+  void operator()(EventKind kind, const ScrollBar& bar, StepWithNumber step) const {
+    if (event.kind == kind && event.control == &bar) step(w, event.value);
+  }
+  /// Anywhere on a card, as its numbers answer with its frame: a step for its slot.
+  void operator()(EventKind kind, std::array<CardControls, cardCount>& cards,
+                  StepWithNumber step) const {
+    if (event.kind != kind || event.control == nullptr) return;
+    const Control* frame = event.control->parent != nullptr ? event.control->parent : event.control;
+    for (const int slot : allSlots) {
+      if (frame == &cards[static_cast<std::size_t>(slot)].frame) step(w, slot);
+    }
   }
   void operator()(const MenuEntry& entry, Step step) const {
     if (event.entry == &entry) step(w);
   }
 };
 
-/// Anywhere on a card: its numbers answer as its frame.
-void onCards(const On& on) {
-  if (on.event.kind != DoubleClick) return;
-  const Control* control = on.event.control;
-  if (control->parent != nullptr) control = control->parent;
-  for (const int slot : allSlots) {
-    if (control == &on.w.card(slot).frame) doubleClickCard(on.w, slot);
-  }
-}
-
 void onTable(const On& on) {
   MainWindow& w = on.w;
-  const Event& event = on.event;
   on(Tick, w.form, tick);
-  onCards(on);
+  on(DoubleClick, w.cards, doubleClickCard);
   on(Click, w.discard, pressDiscard);
   on(Click, w.choice.keys, pressDiscardUnlessAsked);
   on(Click, w.choice.leftBottom, chooseLeftBottom);
   on(Click, w.choice.rightTop, chooseRightTop);
   on(Click, w.choice.cancel, cancelChoice);
-  const bool key = event.kind == KeyPress && event.form == &w.form && event.control != nullptr;
-  if (key) pressKey(w, *event.control, event.value);
+  on(KeyPress, w.form, pressKey);
   on(Close, w.form, chooseExit);
   on(SystemEnd, w.form, endBySystem);
 }
@@ -70,9 +77,7 @@ void onPanels(const On& on) {
   on(MouseDown, w.tutorial.next, mouseDownOnNext);
   on(Click, w.tutorial.next, pressNext);
   on(Click, w.tutorial.stop, stopTutorial);
-  if (on.event.control == &w.sizePanel.bar && on.event.kind == Scroll) {
-    scrollTableSize(w, on.event.value);
-  }
+  on(Scroll, w.sizePanel.bar, scrollTableSize);
   on(Click, w.sizePanel.ok, closeSizePanel);
 }
 

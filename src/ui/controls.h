@@ -27,7 +27,6 @@ struct CardControls {
 
   /// The colour behind both numbers.
   void paintNumbers(Color color);
-  [[nodiscard]] bool isCovered() const { return back.ground.visible; }
   /// Shows the back, which stands in front of the face, or takes it away.
   void cover();
   void uncover();
