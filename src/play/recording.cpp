@@ -11,33 +11,29 @@ namespace {
 /// Another running game may change the file meanwhile; then the change is made to what it wrote.
 /// QUIRK-44: tells that the counts begin again also when they are emptied. One would expect no
 /// word; the player who clears 999 games reads that they are reset. Meant.
-void changeFile(MainWindow& w, const std::function<std::string(std::string_view)>& change) {
+void change(MainWindow& w, const std::function<std::string(std::string_view)>& changed) {
   bool told = false;
   bool written = false;
-  while (!written) {
-    const std::string before = w.desktop.readFile(statisticsFile);
-    if (countsAreFull(before) && !told) {
-      w.say(countsFullMessage);
-      told = true;
-    }
-    written = w.desktop.exchangeFile(statisticsFile, before, change(before));
-  }
-}
-
-/// Statistics that cannot be kept must not stop the end of a game; they stay as they were.
-void changeIfPossible(MainWindow& w, const std::function<std::string(std::string_view)>& change) {
   try {
-    changeFile(w, change);
+    while (!written) {
+      const std::string before = w.desktop.readFile(statisticsFile);
+      if (countsAreFull(before) && !told) {
+        w.say(countsFullMessage);
+        told = true;
+      }
+      written = w.desktop.exchangeFile(statisticsFile, before, changed(before));
+    }
   } catch (const PlatformError&) {
+    // What cannot be kept must not stop the end of a game; the statistics stay as they were.
   }
 }
 
 }  // namespace
 
 void recordResult(MainWindow& w, GameResult result) {
-  changeIfPossible(w, [result](std::string_view text) { return withResult(text, result); });
+  change(w, [result](std::string_view text) { return withResult(text, result); });
 }
 
-void forgetResults(MainWindow& w) { changeIfPossible(w, withoutResults); }
+void forgetResults(MainWindow& w) { change(w, withoutResults); }
 
 }  // namespace mevracard

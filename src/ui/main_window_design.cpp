@@ -253,24 +253,28 @@ void addSizePanel(Form& form, SizePanel& panel) {
   panel.show(false);
 }
 
-}  // namespace
-
-void MainWindow::designControls() {
+void designForm(MainWindow& w) {
+  Form& form = w.form;
   form.name = "mevraku";
   form.caption = "Zub MevraCard";
   form.backColor = handColour;
   form.width = 12345;
   form.height = 6855;
   form.maximized = true;
-  place(table.whole, {240, 120, 14640, 10495});
-  form.whole = &table.whole;
-  place(table.panels, {600, 1800, 2535, 2895});
-  form.corner = &table.panels;
-  form.timer = &timer;
-  form.defaultFocus = &discard;
-  form.escape = {&choice.cancel, &sizePanel.ok};
-  form.seenFocus = &tutorial.next;
+  place(w.table.whole, {240, 120, 14640, 10495});
+  form.whole = &w.table.whole;
+  place(w.table.panels, {600, 1800, 2535, 2895});
+  form.corner = &w.table.panels;
+  form.timer = &w.timer;
+  form.defaultFocus = &w.discard;
+  form.escape = {&w.choice.cancel, &w.sizePanel.ok};
+  form.seenFocus = &w.tutorial.next;
+}
 
+}  // namespace
+
+void MainWindow::designControls() {
+  designForm(*this);
   designCounters(table);
   designTable(table);
   for (CardControls& card : cards) designCard(card);
