@@ -6,7 +6,9 @@
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
-  mevracard::useOffscreen({1366, 768});
+  bool isGiven = false;
+  const double ratio = qEnvironmentVariable("QT_SCALE_FACTOR").toDouble(&isGiven);
+  mevracard::useOffscreen(QSize(1366, 768) * (isGiven ? ratio : 1));
   const QApplication application(argc, argv);
   return RUN_ALL_TESTS();
 }
