@@ -31,7 +31,7 @@ void News::startAnew() {
 }
 
 void News::note(const GameState& s, bool playerActed) {
-  if (s.openings == 0 || s.laidCount < told_.laid) startAnew();
+  if (s.laidCount < told_.laid) startAnew();
   if (std::exchange(refusals_, s.refusals) != s.refusals) {
     noteMoves(s);  // before the refusal
     moves_ += nameOf(s.card(s.playCard)) + " does not fit. ";

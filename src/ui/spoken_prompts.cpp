@@ -27,7 +27,7 @@ std::string turnPrompt(const GameState& s) {
 
 std::string turnWords(const GameState& s) {
   const std::string text = statusText(s.announcement, s.tutorial.running);
-  return text.empty() || text.ends_with('!') ? text + " " : text + ". ";
+  return text + (text.ends_with('!') ? " " : ". ");
 }
 
 std::string standing(const GameState& s) {
