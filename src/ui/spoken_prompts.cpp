@@ -13,6 +13,12 @@ std::string sumWords(const GameState& s, Side side) {
   return std::to_string(leftover(s, side).sum) + ". ";
 }
 
+/// Of a card that fits there.
+std::string fitWords(const GameState& s, End end) {
+  const std::string number = std::to_string(s.openNumber[end]);
+  return "Its " + number + " fits the " + number + " at " + nameOf(end) + ". ";
+}
+
 std::string turnPrompt(const GameState& s) {
   const int slot = s.selectedCard;
   if (slot >= handSize || !s.card(slot).held) {
@@ -48,9 +54,7 @@ std::string shownCard(const GameState& s) {
   const Card& card = s.card(s.playCard);
   const std::string shown = "Shown: " + nameOf(card) + ". ";
   for (const End end : {End::RightTop, End::LeftBottom}) {
-    if (!card.bears(s.openNumber[end])) continue;
-    const std::string number = std::to_string(s.openNumber[end]);
-    return shown + ("Its " + number) + (" fits the " + number) + (" at " + nameOf(end)) + ". ";
+    if (card.bears(s.openNumber[end])) return shown + fitWords(s, end);
   }
   return shown + "It does not fit. ";
 }
