@@ -26,12 +26,12 @@ void wholeGames(benchmark::State& run) {
 BENCHMARK(wholeGames)->ArgName("level")->Arg(1)->Arg(2)->Unit(benchmark::kMicrosecond);
 
 /// States of random games in which the computer is to lay a card.
-std::vector<GameState> computersTurns(const Request& request, std::size_t count) {
-  std::vector<GameState> turns;
+std::vector<Game> computersTurns(const Request& request, std::size_t count) {
+  std::vector<Game> turns;
   for (std::uint64_t seed = 0; turns.size() < count; ++seed) {
     Table table(request, seed);
-    for (const MainWindow& w = table.window(); !w.state.gameOver; table.goOn()) {
-      if (table.computerIsToMove() && !mustPass(w.state, Side::Computer)) turns.push_back(w.state);
+    for (const MainWindow& w = table.window(); !w.game.ending.over; table.goOn()) {
+      if (table.computerIsToMove() && !mustPass(w.game, Side::Computer)) turns.push_back(w.game);
     }
   }
   return turns;
@@ -46,7 +46,7 @@ void computersTurn(benchmark::State& run) {
   MainWindow& w = table.window();
   std::size_t next = 0;
   for (auto _ : run) {
-    w.state = turns[next++ % turns.size()];
+    w.game = turns[next++ % turns.size()];
     takeComputersTurn(w);
   }
 }

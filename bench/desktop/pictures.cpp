@@ -58,9 +58,11 @@ class Session {
     shoot("selected");
     poseChoice();
     posePanel();
-    layUntil([this] { return s_.laidAt[End::RightTop] + s_.laidAt[End::LeftBottom] >= 13; });
+    layUntil([this] {
+      return game_.chain.laidAt[End::RightTop] + game_.chain.laidAt[End::LeftBottom] >= 13;
+    });
     shoot("middle");
-    layUntil([this] { return s_.gameOver; });
+    layUntil([this] { return game_.ending.over; });
     shoot("end");
     choose(w_.menu.statistics);
     shoot("statistics");
@@ -97,7 +99,7 @@ class Session {
   template <typename Condition>
   void layUntil(Condition done) {
     for (int slot = 0; slot < handSize && !done(); ++slot) {
-      if (!s_.card(slot).held || !fits(s_, slot)) continue;
+      if (!game_.card(slot).held || !fits(game_, slot)) continue;
       send({EventKind::DoubleClick, &w_.form, &w_.card(slot).frame, nullptr, 0});
       if (s_.choiceOpen) press(w_.choice.leftBottom);
       answer();
@@ -107,11 +109,11 @@ class Session {
 
   /// Both open numbers are those of a card in the hand.
   void poseChoice() {
-    const auto open = s_.openNumber;
+    const auto open = game_.chain.openNumber;
     for (const int slot : handOf(Side::Player)) {
-      const Card& card = s_.card(slot);
+      const Card& card = game_.card(slot);
       if (!card.held || card.isDouble()) continue;
-      s_.openNumber = {{card.upper, card.lower}};
+      game_.chain.openNumber = {{card.upper, card.lower}};
       send({EventKind::DoubleClick, &w_.form, &w_.card(slot).frame, nullptr, 0});
       break;
     }
@@ -122,7 +124,7 @@ class Session {
     shoot("about");
     send({EventKind::Close, &w_.about.form, nullptr, nullptr, 0});
     press(w_.choice.cancel);
-    s_.openNumber = open;
+    game_.chain.openNumber = open;
   }
 
   void posePanel() {
@@ -166,7 +168,8 @@ class Session {
   PosingDesktop desktop_{home_.filePath("data")};
   Program program_{desktop_};
   MainWindow& w_ = program_.window();
-  GameState& s_ = w_.state;
+  Game& game_ = w_.game;
+  TableState& s_ = w_.state;
 };
 
 }  // namespace

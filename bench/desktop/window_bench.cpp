@@ -63,7 +63,7 @@ int fittingCard(Game& game) {
   MainWindow& w = game.program.window();
   for (;;) {
     for (const int slot : handOf(Side::Player)) {
-      if (w.state.card(slot).held && fits(w.state, slot)) return slot;
+      if (w.game.card(slot).held && fits(w.game, slot)) return slot;
     }
     w.form.enabled = true;
     game.program.handle({EventKind::Menu, &w.form, nullptr, &w.menu.newGame, 0});

@@ -5,22 +5,22 @@
 
 namespace mevracard {
 
-SameNumberVerdict sameNumberVerdict(const GameState& s) {
-  const bool banShows = s.openNumber[End::RightTop] == s.bannedNumber ||
-                        s.openNumber[End::LeftBottom] == s.bannedNumber;
+SameNumberVerdict sameNumberVerdict(const Game& game) {
+  const bool banShows = game.chain.openNumber[End::RightTop] == game.mind.bannedNumber ||
+                        game.chain.openNumber[End::LeftBottom] == game.mind.bannedNumber;
   for (const int card : handOf(Side::Computer)) {
-    if (!s.card(card).held) continue;
+    if (!game.card(card).held) continue;
     if (!banShows) return SameNumberVerdict::Harmless;
-    if (!bearsBothActiveNumbers(s, card)) continue;
-    const int players = leftover(s, Side::Player).sum;
-    const int computers = leftover(s, Side::Computer).sum - s.card(card).sum();
+    if (!bearsBothActiveNumbers(game, card)) continue;
+    const int players = leftover(game, Side::Player).sum;
+    const int computers = leftover(game, Side::Computer).sum - game.card(card).sum();
     return computers > players ? SameNumberVerdict::WouldLose : SameNumberVerdict::Harmless;
   }
   return SameNumberVerdict::NoCard;
 }
 
-bool sameNumberWouldLose(const GameState& s) {
-  return sameNumberVerdict(s) == SameNumberVerdict::WouldLose;
+bool sameNumberWouldLose(const Game& game) {
+  return sameNumberVerdict(game) == SameNumberVerdict::WouldLose;
 }
 
 }  // namespace mevracard

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "game/state.h"
+#include "game/game.h"
 
 namespace mevracard {
 
@@ -12,9 +12,9 @@ enum class SameNumberVerdict {
 };
 
 /// NoCard also if the computer holds no card at all.
-[[nodiscard]] SameNumberVerdict sameNumberVerdict(const GameState& s);
+[[nodiscard]] SameNumberVerdict sameNumberVerdict(const Game& game);
 
 /// The one question that the rules ask.
-[[nodiscard]] bool sameNumberWouldLose(const GameState& s);
+[[nodiscard]] bool sameNumberWouldLose(const Game& game);
 
 }  // namespace mevracard

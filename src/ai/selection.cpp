@@ -24,20 +24,19 @@ struct View {
   }
 };
 
-View viewOf(const GameState& s, int card, int target = noNumber) {
-  return {s.card(card).upper,
-          s.card(card).lower,
-          s.openNumber[End::RightTop],
-          s.openNumber[End::LeftBottom],
+View viewOf(const Game& game, int card, int target = noNumber) {
+  return {game.card(card).upper,
+          game.card(card).lower,
+          game.chain.openNumber[End::RightTop],
+          game.chain.openNumber[End::LeftBottom],
           target,
-          s.bannedNumber};
+          game.mind.bannedNumber};
 }
 
 /// Examines the computer's cards in scan order until one makes a move.
 template <typename Examine>
-std::optional<Move> firstMove(GameState& s, Scan scan, Examine examine) {
+std::optional<Move> firstMove(Scan scan, Examine examine) {
   for (const int card : scanned(Side::Computer, scan)) {
-    s.playCard = card;
     if (const std::optional<Move> move = examine(card)) return move;
   }
   return std::nullopt;
@@ -76,15 +75,15 @@ constexpr std::array<TargetRule, 6> targetRules{{
 }};
 
 /// Rules A to C: for both targets, each card in scan order.
-std::optional<Move> aimAtTargets(GameState& s, Scan scan) {
-  Targets targets = rarestNumbers(playerCounts(s));
-  findBannedNumber(s, targets);
+std::optional<Move> aimAtTargets(Game& game, Scan scan) {
+  Targets targets = rarestNumbers(playerCounts(game));
+  findBannedNumber(game, targets);
   for (const int target : targets) {
-    const auto move = firstMove(s, scan, [&](int card) -> std::optional<Move> {
-      if (!s.card(card).held) return std::nullopt;
-      const View view = viewOf(s, card, target);
+    const auto move = firstMove(scan, [&](int card) -> std::optional<Move> {
+      if (!game.card(card).held) return std::nullopt;
+      const View view = viewOf(game, card, target);
       for (const TargetRule& rule : targetRules) {
-        if (rule.applies(view) && rule.sameNumberLoses == sameNumberWouldLose(s)) {
+        if (rule.applies(view) && rule.sameNumberLoses == sameNumberWouldLose(game)) {
           return Move{card, rule.end};
         }
       }
@@ -96,13 +95,14 @@ std::optional<Move> aimAtTargets(GameState& s, Scan scan) {
 }
 
 /// Rule D: a card for the end opposite the one that shows the banned number.
-std::optional<Move> leaveBannedNumber(GameState& s) {
-  return firstMove(s, Scan::Upwards, [&](int card) -> std::optional<Move> {
-    if (!s.card(card).held) return std::nullopt;
-    const bool opposite =
-        (fitsAt(s, card, End::RightTop) && s.openNumber[End::LeftBottom] == s.bannedNumber) ||
-        (fitsAt(s, card, End::LeftBottom) && s.openNumber[End::RightTop] == s.bannedNumber);
-    if (!opposite || sameNumberWouldLose(s)) return std::nullopt;
+std::optional<Move> leaveBannedNumber(Game& game) {
+  return firstMove(Scan::Upwards, [&](int card) -> std::optional<Move> {
+    if (!game.card(card).held) return std::nullopt;
+    const bool opposite = (fitsAt(game, card, End::RightTop) &&
+                           game.chain.openNumber[End::LeftBottom] == game.mind.bannedNumber) ||
+                          (fitsAt(game, card, End::LeftBottom) &&
+                           game.chain.openNumber[End::RightTop] == game.mind.bannedNumber);
+    if (!opposite || sameNumberWouldLose(game)) return std::nullopt;
     return Move{card, std::nullopt};
   });
 }
@@ -111,53 +111,55 @@ bool isHeldDouble(const Card& card, int number) {
   return card.held && card.isDouble() && card.bears(number);
 }
 
-bool playerHoldsDouble(const GameState& s, int number) {
+bool playerHoldsDouble(const Game& game, int number) {
   const auto hand = handOf(Side::Player);
   return std::any_of(hand.begin(), hand.end(),
-                     [&](int slot) { return isHeldDouble(s.card(slot), number); });
+                     [&](int slot) { return isHeldDouble(game.card(slot), number); });
 }
 
 /// The double that the player could lay next besides `danger`, among the numbers of this card.
-void findSecondDanger(GameState& s, const Card& examined) {
+void findSecondDanger(Game& game, const Card& examined) {
   for (const int slot : handOf(Side::Player)) {
-    const Card& card = s.card(slot);
+    const Card& card = game.card(slot);
     const int number = card.upper;
-    if (isHeldDouble(card, number) && examined.bears(number) && number != s.danger) {
-      s.secondDanger = number;
+    if (isHeldDouble(card, number) && examined.bears(number) && number != game.mind.danger) {
+      game.mind.secondDanger = number;
     }
     // QUIRK-23: any card of the player's slots ends the search here, held or not, also by a number
     // left over from an earlier card. One would expect each search to start afresh; the computer
     // may then overlook a double. Meant.
-    if (number == s.secondDanger) return;
+    if (number == game.mind.secondDanger) return;
   }
 }
 
 /// Rule E for one card.
-std::optional<Move> coverDanger(GameState& s, int card) {
-  if (!s.card(card).held) return std::nullopt;
-  const View v = viewOf(s, card);
+std::optional<Move> coverDanger(Game& game, int card) {
+  if (!game.card(card).held) return std::nullopt;
+  const View v = viewOf(game, card);
   if (v.isDouble()) {
     if (v.x == v.first) return Move{card, End::RightTop};
     if (v.x == v.second) return Move{card, End::LeftBottom};
     return std::nullopt;
   }
-  if (!s.card(card).bears(s.danger)) return std::nullopt;
-  findSecondDanger(s, s.card(card));
-  if (!v.coversWithoutOpening(s.secondDanger) || sameNumberWouldLose(s)) return std::nullopt;
+  if (!game.card(card).bears(game.mind.danger)) return std::nullopt;
+  findSecondDanger(game, game.card(card));
+  if (!v.coversWithoutOpening(game.mind.secondDanger) || sameNumberWouldLose(game))
+    return std::nullopt;
   return Move{card, std::nullopt};
 }
 
 /// Rule E: the computer's highest double that fits, or a card that covers the end which fits a
 /// double of the player's (`danger`).
-std::optional<Move> layDoubleOrCoverDanger(GameState& s) {
-  s.danger = noNumber;
-  s.secondDanger = noNumber;
+std::optional<Move> layDoubleOrCoverDanger(Game& game) {
+  game.mind.danger = noNumber;
+  game.mind.secondDanger = noNumber;
   for (int n = 6; n >= 0; --n) {
-    const bool open = n == s.openNumber[End::RightTop] || n == s.openNumber[End::LeftBottom];
-    const auto move = firstMove(s, Scan::Upwards, [&](int card) -> std::optional<Move> {
-      if (open && playerHoldsDouble(s, n)) s.danger = n;
-      if (!s.card(card).bears(n)) return std::nullopt;
-      return coverDanger(s, card);
+    const bool open =
+        n == game.chain.openNumber[End::RightTop] || n == game.chain.openNumber[End::LeftBottom];
+    const auto move = firstMove(Scan::Upwards, [&](int card) -> std::optional<Move> {
+      if (open && playerHoldsDouble(game, n)) game.mind.danger = n;
+      if (!game.card(card).bears(n)) return std::nullopt;
+      return coverDanger(game, card);
     });
     if (move) return move;
   }
@@ -167,13 +169,14 @@ std::optional<Move> layDoubleOrCoverDanger(GameState& s) {
 /// Rule F: the first card that fits without opening the danger, a double of the player's.
 /// QUIRK-45: which is but one number, met from 6 down. The first card that will do at 6 is laid, so
 /// the 6-6 alone is guarded against, and other doubles only where every card that fits opens a 6.
-std::optional<Move> openNoDanger(GameState& s) {
-  s.danger = noNumber;
+std::optional<Move> openNoDanger(Game& game) {
+  game.mind.danger = noNumber;
   for (int n = 6; n >= 0; --n) {
-    const auto move = firstMove(s, Scan::Upwards, [&](int card) -> std::optional<Move> {
-      if (s.card(card).bears(n) && playerHoldsDouble(s, n)) s.danger = n;
-      const bool safe = s.card(card).held && viewOf(s, card).coversWithoutOpening(s.danger);
-      if (!safe || sameNumberWouldLose(s)) return std::nullopt;
+    const auto move = firstMove(Scan::Upwards, [&](int card) -> std::optional<Move> {
+      if (game.card(card).bears(n) && playerHoldsDouble(game, n)) game.mind.danger = n;
+      const bool safe =
+          game.card(card).held && viewOf(game, card).coversWithoutOpening(game.mind.danger);
+      if (!safe || sameNumberWouldLose(game)) return std::nullopt;
       return Move{card, std::nullopt};
     });
     if (move) return move;
@@ -197,11 +200,11 @@ std::array<int, handSize> scanned(Side side, Scan scan) {
   return slots;
 }
 
-std::optional<Move> chooseTactically(GameState& s, Scan scan) {
-  if (const auto move = aimAtTargets(s, scan)) return move;
-  if (const auto move = leaveBannedNumber(s)) return move;
-  if (const auto move = layDoubleOrCoverDanger(s)) return move;
-  return openNoDanger(s);
+std::optional<Move> chooseTactically(Game& game, Scan scan) {
+  if (const auto move = aimAtTargets(game, scan)) return move;
+  if (const auto move = leaveBannedNumber(game)) return move;
+  if (const auto move = layDoubleOrCoverDanger(game)) return move;
+  return openNoDanger(game);
 }
 
 }  // namespace mevracard

@@ -3,10 +3,10 @@
 #include <array>
 #include <optional>
 
-#include "game/state.h"
+#include "game/game.h"
 
-/// Which card the tactical computer lays. Pure: the rules read the state and keep `playCard`, the
-/// card under examination, and the tactical numbers in it.
+/// Which card the tactical computer lays. The rules read the game and keep the
+/// tactical numbers in it.
 namespace mevracard {
 
 /// Order in which a hand is looked through.
@@ -24,9 +24,8 @@ struct Move {
   std::optional<End> end;
 };
 
-/// Rules A to F in their order: the first that applies decides. Empty if none does. Leaves
-/// `playCard` at the card, or at the last one examined. The caller has set `danger` to none at the
-/// start of the turn.
-[[nodiscard]] std::optional<Move> chooseTactically(GameState& s, Scan scan);
+/// Rules A to F in their order: the first that applies decides. Empty if none does. The
+/// caller has set `danger` to none at the start of the turn.
+[[nodiscard]] std::optional<Move> chooseTactically(Game& game, Scan scan);
 
 }  // namespace mevracard

@@ -22,9 +22,9 @@ int rarest(const NumberCounts& counts, std::size_t from, int otherwise) {
 
 }  // namespace
 
-NumberCounts playedCounts(const GameState& s) {
+NumberCounts playedCounts(const Game& game) {
   NumberCounts counts{};
-  for (const Card& card : s.cards) {
+  for (const Card& card : game.cards) {
     if (card.held || card.isDouble()) continue;
     ++countOf(counts, card.upper);
     ++countOf(counts, card.lower);
@@ -32,12 +32,12 @@ NumberCounts playedCounts(const GameState& s) {
   return counts;
 }
 
-NumberCounts playerCounts(const GameState& s) {
+NumberCounts playerCounts(const Game& game) {
   // QUIRK-35: the computer looks into the player's hand. One would expect it to play by what lies
   // on the table; at level 2 the player meets an opponent that knows every card. Meant.
   NumberCounts counts{};
   for (const int slot : handOf(Side::Player)) {
-    const Card& card = s.card(slot);
+    const Card& card = game.card(slot);
     if (!card.held) continue;
     ++countOf(counts, card.upper);
     if (!card.isDouble()) ++countOf(counts, card.lower);
@@ -52,14 +52,14 @@ Targets rarestNumbers(const NumberCounts& playerCount) {
   return {best, rarest(playerCount, 1, best)};
 }
 
-void findBannedNumber(GameState& s, Targets& targets) {
-  s.bannedNumber = noNumber;
-  NumberCounts played = playedCounts(s);
+void findBannedNumber(Game& game, Targets& targets) {
+  game.mind.bannedNumber = noNumber;
+  NumberCounts played = playedCounts(game);
   for (int n = 0; n < static_cast<int>(played.size()); ++n) {
     if (countOf(played, n) != 5) continue;
     for (const int slot : handOf(Side::Computer)) {
-      if (!s.card(slot).held || !s.card(slot).bears(n)) continue;
-      s.bannedNumber = n;
+      if (!game.card(slot).held || !game.card(slot).bears(n)) continue;
+      game.mind.bannedNumber = n;
       // QUIRK-22: repeated for every such card, so that two of them put the number on both ranks.
       // One would expect one shift; the computer then forgets its best target. Meant.
       targets = {n, targets[0]};

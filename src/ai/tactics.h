@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "game/state.h"
+#include "game/game.h"
 
 /// What the tactical computer knows before it looks for a card.
 namespace mevracard {
@@ -11,9 +11,9 @@ namespace mevracard {
 using NumberCounts = std::array<int, 7>;
 
 /// Non-double cards on the table that bear each number.
-[[nodiscard]] NumberCounts playedCounts(const GameState& s);
+[[nodiscard]] NumberCounts playedCounts(const Game& game);
 /// Cards in the player's hand that bear each number; a double counts once.
-[[nodiscard]] NumberCounts playerCounts(const GameState& s);
+[[nodiscard]] NumberCounts playerCounts(const Game& game);
 
 /// The two numbers that the computer tries to bring to an open end, best first.
 using Targets = std::array<int, 2>;
@@ -22,6 +22,6 @@ using Targets = std::array<int, 2>;
 
 /// Sets `bannedNumber` to a number of which five non-double cards lie on the table and which the
 /// computer still holds, and makes it the best target.
-void findBannedNumber(GameState& s, Targets& targets);
+void findBannedNumber(Game& game, Targets& targets);
 
 }  // namespace mevracard

@@ -14,29 +14,27 @@ void turn(Card& card, int& openNumber, bool upperTouches) {
   openNumber = outward;
 }
 
-void note(GameState& s, LaidCard laid) {
+void note(Chain& chain, LaidCard laid) {
   // A script may lay a card more than once.
-  if (s.laidCount < cardCount) s.laid.at(static_cast<std::size_t>(s.laidCount++)) = laid;
+  if (chain.laid.size() < cardCount) chain.laid.push_back(laid);
 }
 
 }  // namespace
 
-void openChain(GameState& s, int card) {
-  s.card(card).held = false;
-  s.endCard = {{card, card}};
-  s.openNumber = {{s.card(card).upper, s.card(card).lower}};
-  ++s.openings;
-  note(s, {card, End::RightTop});
+void openChain(Game& game, int card) {
+  game.card(card).held = false;
+  game.chain.endCard = {{card, card}};
+  game.chain.openNumber = {{game.card(card).upper, game.card(card).lower}};
+  ++game.chain.openings;
+  note(game.chain, {card, End::RightTop});
 }
 
-Laying joinChain(GameState& s, int card, End end) {
-  const Laying laying = layingOf(end, ++s.laidAt[end]);
-  turn(s.card(card), s.openNumber[end], laying.upperTouches);
-  s.card(card).held = false;
-  s.endCard[end] = card;
-  note(s, {card, end});
-  s.layPosition = laying.position;
-  s.layColumn = laying.column;
+Laying joinChain(Game& game, int card, End end) {
+  const Laying laying = layingOf(end, ++game.chain.laidAt[end]);
+  turn(game.card(card), game.chain.openNumber[end], laying.upperTouches);
+  game.card(card).held = false;
+  game.chain.endCard[end] = card;
+  note(game.chain, {card, end});
   return laying;
 }
 

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <utility>
 
-#include "game/state.h"
+#include "game/cards.h"
 
 /// Seed and shuffle of a deal.
 namespace mevracard {

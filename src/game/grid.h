@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "game/state.h"
+#include "game/cards.h"
 
 /// Where cards lie: hand rows, the winding chain, the turn markers. Design twips, to be multiplied
 /// by the scale in force.
@@ -11,6 +11,9 @@ namespace mevracard {
 struct GridPoint {
   double left = 0, top = 0;
 };
+
+constexpr int smallestTableSize = 70, largestTableSize = 99;  ///< what the player can choose
+constexpr int designTableSize = 100;                          ///< until the settings are read
 
 /// Place of the 0-0.
 constexpr int openingPosition = 6;

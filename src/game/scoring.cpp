@@ -2,10 +2,10 @@
 
 namespace mevracard {
 
-Leftover leftover(const GameState& s, Side side) {
+Leftover leftover(const Game& game, Side side) {
   Leftover left;
   for (const int slot : handOf(side)) {
-    const Card& card = s.card(slot);
+    const Card& card = game.card(slot);
     if (!card.held) continue;
     left.sum += card.sum();
     ++left.cards;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "game/state.h"
+#include "game/game.h"
 
 /// What is left in the hands when a game ends.
 namespace mevracard {
@@ -11,7 +11,7 @@ struct Leftover {
 };
 
 /// The cards that a side still holds.
-[[nodiscard]] Leftover leftover(const GameState& s, Side side);
+[[nodiscard]] Leftover leftover(const Game& game, Side side);
 
 /// Who wins a deadlock: the smaller sum, then the fewer cards; a full tie is the player's loss.
 [[nodiscard]] bool playerWinsDeadlock(const Leftover& player, const Leftover& computer);

@@ -5,13 +5,13 @@
 namespace mevracard {
 
 void openChoice(MainWindow& w, int card) {
-  GameState& s = w.state;
+  TableState& s = w.state;
   s.choiceOpen = true;
   s.playCard = card;
   announce(w, Announcement::ChooseOne);
   w.status.visible = true;
-  w.choice.leftBottom.caption = "Mevra " + std::to_string(s.openNumber[End::RightTop]);
-  w.choice.rightTop.caption = "Mevra " + std::to_string(s.openNumber[End::LeftBottom]);
+  w.choice.leftBottom.caption = "Mevra " + std::to_string(w.game.chain.openNumber[End::RightTop]);
+  w.choice.rightTop.caption = "Mevra " + std::to_string(w.game.chain.openNumber[End::LeftBottom]);
   w.choice.show(true);
   w.form.giveFocus(w.choice.keys);
 }

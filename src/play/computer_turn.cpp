@@ -14,34 +14,34 @@ namespace {
 
 void lay(MainWindow& w, const Move& move) {
   const bool leftBottom = move.end == End::LeftBottom;
-  if (leftBottom) w.state.computerAimsLeftBottom = true;
+  if (leftBottom) w.game.aimsLeftBottom[Side::Computer] = true;
   w.card(move.card).uncover();
   layCard(w, move.card);
-  if (leftBottom) w.state.computerAimsLeftBottom = false;
+  if (leftBottom) w.game.aimsLeftBottom[Side::Computer] = false;
 }
 
 /// Rule G, the whole of computer level 1.
 void layWhateverFits(MainWindow& w, Scan scan) {
-  GameState& s = w.state;
+  TableState& s = w.state;
   // QUIRK-09: the scan goes on after a card was laid, so one turn lays every card that fits when it
   // is met, while "Rest of Card" drops by one. One would expect one card a turn and a true count;
   // the player sees several cards appear at once. Meant.
   for (const int card : scanned(Side::Computer, scan)) {
     s.playCard = card;
-    if (s.card(card).held && fits(s, card)) lay(w, {card, std::nullopt});
+    if (w.game.card(card).held && fits(w.game, card)) lay(w, {card, std::nullopt});
   }
 }
 
 void layByLevel(MainWindow& w) {
-  GameState& s = w.state;
+  TableState& s = w.state;
   if (s.tutorial.running) {
     s.tutorial.nextIsComputers = false;
     announce(w, Announcement::YourTurn);
   }
-  --s.cardsLeft[Side::Computer];
+  --w.game.counts.cardsLeft[Side::Computer];
   const Scan scan = scanFor(w.desktop.random());
-  if (s.computerLevel == 2) {
-    if (const auto move = chooseTactically(s, scan)) {
+  if (w.game.levels.computer == 2) {
+    if (const auto move = chooseTactically(w.game, scan)) {
       lay(w, *move);
       return;
     }
@@ -52,10 +52,9 @@ void layByLevel(MainWindow& w) {
 /// QUIRK-11: a computer that cannot move either counts its pass before the deadlock, without the
 /// message that goes with a pass. Meant.
 void pass(MainWindow& w) {
-  GameState& s = w.state;
-  s.computerPassed = true;
-  ++s.passes[Side::Computer];
-  if (mustPass(s, Side::Player)) {
+  w.game.mind.hasPassed = true;
+  ++w.game.counts.passes[Side::Computer];
+  if (mustPass(w.game, Side::Player)) {
     deadlock(w);
   } else {
     announceComputersPass(w);
@@ -63,8 +62,8 @@ void pass(MainWindow& w) {
 }
 
 void lookWhetherPlayerCanAnswer(MainWindow& w) {
-  if (!mustPass(w.state, Side::Player)) return;
-  if (mustPass(w.state, Side::Computer)) {
+  if (!mustPass(w.game, Side::Player)) return;
+  if (mustPass(w.game, Side::Computer)) {
     deadlock(w);
   } else {
     announcePlayersPass(w);
@@ -77,8 +76,8 @@ void takeComputersTurn(MainWindow& w) {
   w.timer.disarm();
   closeChoice(w);  // the player's choice was about the numbers as they are now
   w.form.giveFocus(w.discard);
-  w.state.danger = noNumber;
-  if (mustPass(w.state, Side::Computer)) {
+  w.game.mind.danger = noNumber;
+  if (mustPass(w.game, Side::Computer)) {
     pass(w);
     return;
   }

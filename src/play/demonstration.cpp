@@ -31,19 +31,19 @@ struct Aim {
   bool upper;
 };
 
-std::optional<Aim> aimOf(const GameState& s, const Card& card) {
+std::optional<Aim> aimOf(const Game& game, const Card& card) {
   for (const End end : {End::RightTop, End::LeftBottom}) {
-    if (card.upper == s.openNumber[end]) return Aim{end, true};
-    if (card.lower == s.openNumber[end]) return Aim{end, false};
+    if (card.upper == game.chain.openNumber[end]) return Aim{end, true};
+    if (card.lower == game.chain.openNumber[end]) return Aim{end, false};
   }
   return std::nullopt;
 }
 
 /// The number to mark on the card at an end; none on the 0-0.
 Label* markedAtEnd(MainWindow& w, End end) {
-  const int n = w.state.laidAt[end];
+  const int n = w.game.chain.laidAt[end];
   if (n == 0) return nullptr;
-  CardControls& card = w.card(w.state.endCard[end].value_or(0));
+  CardControls& card = w.card(w.game.chain.endCard[end].value_or(0));
   const Laying laying = layingOf(end, n);
   // QUIRK-42: in the third column, from the 22nd card of the Right/Top end and the 21st of the
   // Left/Bottom end on, the number that touches the chain is marked. One would expect the open one;
@@ -68,25 +68,25 @@ void movePointer(MainWindow& w, double x, double y) {
 
 /// A hand without a fitting card is aimed at whatever slot came last, which may be empty.
 bool layDemonstratedCard(MainWindow& w) {
-  GameState& s = w.state;
-  if (s.card(s.playCard).held) return layCard(w, s.playCard);
+  TableState& s = w.state;
+  if (w.game.card(s.playCard).held) return layCard(w, s.playCard);
   w.timer.disarm();
   s.cardWasLaid = false;
   return false;
 }
 
 void endDemonstration(MainWindow& w) {
-  GameState& s = w.state;
+  TableState& s = w.state;
   s.demo.start.x += s.demo.offset.x;
   s.demo.start.y += s.demo.offset.y;
   s.demo.busy = false;
   s.tutorial.untilFirstCard = false;
   const bool laid = layDemonstratedCard(w);
   announce(w, Announcement::ComputersTurn);
-  const Card& card = s.card(s.playCard);
+  const Card& card = w.game.card(s.playCard);
   s.tipText = demonstratedTip(card.upper, card.lower);
   if (laid) {
-    --s.cardsLeft[Side::Player];
+    --w.game.counts.cardsLeft[Side::Player];
     afterPlayersCard(w);
   }
 }
@@ -94,9 +94,9 @@ void endDemonstration(MainWindow& w) {
 }  // namespace
 
 void aimPointer(MainWindow& w) {
-  GameState& s = w.state;
+  TableState& s = w.state;
   CardControls& card = w.card(s.playCard);
-  const auto aim = aimOf(s, s.card(s.playCard));
+  const auto aim = aimOf(w.game, w.game.card(s.playCard));
   Label& target = !aim || aim->upper ? card.upper : card.lower;
   if (aim) {
     target.backColor = selectionColour;

@@ -17,7 +17,7 @@ constexpr int replyDelay = 1000;
 /// statistics to hold the player's own games alone; the player finds one more there. Meant.
 void decide(MainWindow& w, GameResult result) {
   const bool won = result == GameResult::Won;
-  w.state.result = result;
+  w.game.ending.result = result;
   w.result.verdict.caption = won ? "You win" : "You lose";
   recordResult(w, result);
 }
@@ -33,8 +33,8 @@ void playerHasWon(MainWindow& w) {
 }  // namespace
 
 void afterPlayersCard(MainWindow& w) {
-  w.state.deadlock = false;
-  if (w.state.cardsLeft[Side::Player] == 0) {
+  w.game.ending.deadlock = false;
+  if (w.game.counts.cardsLeft[Side::Player] == 0) {
     playerHasWon(w);
     return;
   }
@@ -44,7 +44,7 @@ void afterPlayersCard(MainWindow& w) {
 }
 
 void computerHasWon(MainWindow& w) {
-  w.state.deadlock = false;
+  w.game.ending.deadlock = false;
   if (w.state.tutorial.running) endTutorial(w);
   decide(w, GameResult::Lost);
   w.state.tipText = tipHeading() + computerWinsTip();
@@ -53,29 +53,30 @@ void computerHasWon(MainWindow& w) {
 }
 
 void deadlock(MainWindow& w) {
-  GameState& s = w.state;
+  TableState& s = w.state;
   if (s.tutorial.running) endTutorial(w);
-  s.deadlock = true;
+  w.game.ending.deadlock = true;
   w.result.verdict.visible = true;  // also while a message about the statistics stands before it
   showSums(w);
-  const bool won = playerWinsDeadlock(leftover(s, Side::Player), leftover(s, Side::Computer));
+  const bool won =
+      playerWinsDeadlock(leftover(w.game, Side::Player), leftover(w.game, Side::Computer));
   decide(w, won ? GameResult::Won : GameResult::Lost);
   s.tipText = tipHeading() + deadlockTip();
   showResult(w);
 }
 
 void showSums(MainWindow& w) {
-  w.result.yourSum.caption = std::to_string(leftover(w.state, Side::Player).sum);
-  w.result.computersSum.caption = std::to_string(leftover(w.state, Side::Computer).sum);
+  w.result.yourSum.caption = std::to_string(leftover(w.game, Side::Player).sum);
+  w.result.computersSum.caption = std::to_string(leftover(w.game, Side::Computer).sum);
 }
 
 void showResult(MainWindow& w) {
-  w.state.gameOver = true;
+  w.game.ending.over = true;
   w.state.takesCards = false;
   w.status.visible = false;
   w.result.show(true);
   for (const int slot : handOf(Side::Computer)) {
-    if (w.state.card(slot).held) w.card(slot).uncover();
+    if (w.game.card(slot).held) w.card(slot).uncover();
   }
 }
 

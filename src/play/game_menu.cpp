@@ -9,7 +9,7 @@ namespace mevracard {
 namespace {
 
 void countAbortedGame(MainWindow& w) {
-  if (w.state.gameOver) return;
+  if (w.game.ending.over) return;
   w.say(abortMessage);
   recordResult(w, GameResult::Lost);
 }
@@ -28,7 +28,7 @@ void chooseExit(MainWindow& w) {
 
 void endBySystem(MainWindow& w) {
   // A loss like any other, but nobody is there to be told.
-  if (!w.state.gameOver) recordResult(w, GameResult::Lost);
+  if (!w.game.ending.over) recordResult(w, GameResult::Lost);
   w.desktop.end();
 }
 

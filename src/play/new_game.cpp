@@ -20,13 +20,12 @@ constexpr int replyDelay = 1000;
 
 /// Nothing that the game before had under way may reach the new one.
 void dropGameBefore(MainWindow& w) {
-  GameState& s = w.state;
   w.timer.disarm();
   closeChoice(w);
-  s.playerAimsLeftBottom = false;
-  s.computerAimsLeftBottom = false;
-  s.computerPassed = false;
-  s.bannedNumber = s.danger = s.secondDanger = noNumber;
+  w.game.aimsLeftBottom[Side::Player] = false;
+  w.game.aimsLeftBottom[Side::Computer] = false;
+  w.game.mind.hasPassed = false;
+  w.game.mind.bannedNumber = w.game.mind.danger = w.game.mind.secondDanger = noNumber;
 }
 
 /// QUIRK-08: the seed is the year and the sum of minute and second, nothing else: a year has at
@@ -34,19 +33,18 @@ void dropGameBefore(MainWindow& w) {
 /// minute and second of the same sum meets the same hands. Meant.
 void seedRandom(MainWindow& w) {
   const ClockTime time = w.desktop.clock();
-  w.state.dealSeed = dealSeedOf(w.desktop.shortDate(), time.minute, time.second);
-  w.desktop.seedRandom(w.state.dealSeed);
+  w.game.dealSeed = dealSeedOf(w.desktop.shortDate(), time.minute, time.second);
+  w.desktop.seedRandom(w.game.dealSeed);
 }
 
 void clearTable(MainWindow& w, double scale) {
-  GameState& s = w.state;
-  s.deadlock = false;
+  w.game.ending.deadlock = false;
   w.result.show(false);
-  s.laidAt = {};
-  s.openings = 0;
-  s.laidCount = 0;
-  s.cardsLeft = {{handSize, handSize}};
-  s.passes = {};
+  w.game.chain.laidAt = {};
+  w.game.chain.openings = 0;
+  w.game.chain.laid.clear();
+  w.game.counts.cardsLeft = {{handSize, handSize}};
+  w.game.counts.passes = {};
   for (std::size_t i = 0; i < w.table.markers.size(); ++i) {
     putAt(w.table.markers[i], markerPark(i), scale);
   }
@@ -57,7 +55,7 @@ void layOutHands(MainWindow& w, double scale) {
       w.stackedDeck ? *w.stackedDeck : shuffledDeck([&w] { return w.desktop.random(); });
   for (const int slot : allSlots) {
     const auto [upper, lower] = deck[static_cast<std::size_t>(slot)];
-    w.state.card(slot) = {upper, lower, true};
+    w.game.card(slot) = {upper, lower, true};
     putAt(w.card(slot).frame, handPlace(slot), scale);
     w.card(slot).frame.backColor = handColour;
     w.card(slot).paintNumbers(handColour);
@@ -67,7 +65,7 @@ void layOutHands(MainWindow& w, double scale) {
 /// Face up at player level 1, face down at level 2.
 void coverComputersHand(MainWindow& w) {
   for (const int slot : handOf(Side::Computer)) {
-    if (w.state.playerLevel == 1) {
+    if (w.game.levels.player == 1) {
       w.card(slot).uncover();
     } else {
       w.card(slot).cover();
@@ -104,7 +102,7 @@ void takeScreenMetrics(MainWindow& w) {
 
 void startGame(MainWindow& w) {
   takeScreenMetrics(w);
-  w.state.gameOver = false;
+  w.game.ending.over = false;
   w.state.takesCards = true;
   w.discard.width = 0;  // it shows for the keyboard alone
   w.discard.height = 0;
@@ -120,7 +118,7 @@ void startAnotherGame(MainWindow& w) {
 }
 
 void deal(MainWindow& w) {
-  GameState& s = w.state;
+  TableState& s = w.state;
   dropGameBefore(w);
   const bool firstDeal = !s.newGameAsked;
   const double scale = firstDeal ? 1.0 : w.scale();
@@ -134,7 +132,7 @@ void deal(MainWindow& w) {
   openWithDoubleZero(w);
   if (s.cardWasLaid) {
     w.timer.arm(replyDelay);
-  } else if (mustPass(s, Side::Player)) {
+  } else if (mustPass(w.game, Side::Player)) {
     passOpening(w);
   }
 }

@@ -13,15 +13,15 @@ namespace {
 
 constexpr int firstStepDelay = 1000;  ///< of the tutorial
 
-std::optional<int> slotOfDoubleZero(const GameState& s) {
+std::optional<int> slotOfDoubleZero(const Game& game) {
   for (const int slot : allSlots) {
-    if (s.card(slot).isDouble() && s.card(slot).bears(0)) return slot;
+    if (game.card(slot).isDouble() && game.card(slot).bears(0)) return slot;
   }
   return std::nullopt;
 }
 
 void layDoubleZero(MainWindow& w, int slot) {
-  GameState& s = w.state;
+  TableState& s = w.state;
   s.playCard = slot;
   // QUIRK-04: it glides towards the place of the last card of the game before, and not at all when
   // the player's hand fits none of that game's last numbers. One would expect a glide to the
@@ -30,11 +30,11 @@ void layDoubleZero(MainWindow& w, int slot) {
   putAt(w.card(slot).frame, chainPlace(End::RightTop, openingPosition, 0), w.scale());
   w.card(slot).paintNumbers(handColour);
   w.card(slot).uncover();
-  openChain(s, slot);
+  openChain(w.game, slot);
 }
 
 void giveTurnToPlayer(MainWindow& w) {
-  w.state.cardsLeft[Side::Computer] = handSize - 1;
+  w.game.counts.cardsLeft[Side::Computer] = handSize - 1;
   w.state.cardWasLaid = false;
   announce(w, Announcement::YourTurn);
   appendGeneralTip(w);
@@ -42,7 +42,7 @@ void giveTurnToPlayer(MainWindow& w) {
 }
 
 void giveTurnToComputer(MainWindow& w) {
-  w.state.cardsLeft[Side::Player] = handSize - 1;
+  w.game.counts.cardsLeft[Side::Player] = handSize - 1;
   w.state.cardWasLaid = true;
   announce(w, Announcement::ComputersTurn);
   w.state.tutorial.computerWaitsForNext = false;
@@ -54,10 +54,10 @@ void giveTurnToComputer(MainWindow& w) {
 }  // namespace
 
 void openWithDoubleZero(MainWindow& w) {
-  GameState& s = w.state;
+  TableState& s = w.state;
   s.demo.done = true;
   s.tipText = tipHeading() + openingTip();
-  const auto slot = slotOfDoubleZero(s);
+  const auto slot = slotOfDoubleZero(w.game);
   if (slot) layDoubleZero(w, *slot);
   w.form.giveFocus(w.discard);
   if (slot && ownerOf(*slot) == Side::Computer) {

@@ -25,17 +25,17 @@ void selectLastCard(MainWindow& w) {
 }
 
 /// The last words were about no pass, and both sides can go on.
-bool turnWasPlain(const GameState& s) {
-  return s.announcement != Announcement::ComputerPasses &&
-         s.announcement != Announcement::YouPass && !mustPass(s, Side::Player) &&
-         !mustPass(s, Side::Computer) && s.cardsLeft[Side::Computer] != 0 &&
-         s.cardsLeft[Side::Player] != 0;
+bool turnWasPlain(const MainWindow& w) {
+  return w.state.announcement != Announcement::ComputerPasses &&
+         w.state.announcement != Announcement::YouPass && !mustPass(w.game, Side::Player) &&
+         !mustPass(w.game, Side::Computer) && w.game.counts.cardsLeft[Side::Computer] != 0 &&
+         w.game.counts.cardsLeft[Side::Player] != 0;
 }
 
 /// Right of the card at the Right/Top end, which stays in view; where the screen has no room there,
 /// clear of the chain.
 void placePopup(MainWindow& w) {
-  const Frame& endCard = w.card(w.state.endCard[End::RightTop].value_or(0)).frame;
+  const Frame& endCard = w.card(w.game.chain.endCard[End::RightTop].value_or(0)).frame;
   w.keepAboutClear();
   w.about.form.placed = true;
   w.about.form.left = endCard.left + endCard.width + popupGap;
@@ -45,24 +45,25 @@ void placePopup(MainWindow& w) {
 }  // namespace
 
 void announceComputersPass(MainWindow& w) {
-  GameState& s = w.state;
+  TableState& s = w.state;
   bringStatusToFront(w);
   announce(w, Announcement::ComputerPasses);
   selectLastCard(w);
   w.say(computerPassesMessage);
   announce(w, Announcement::YourTurn);
   if (s.tutorial.running) s.tutorial.nextIsComputers = false;
-  s.tipText =
-      tipHeading() + computerPassTip(s.openNumber[End::RightTop], s.openNumber[End::LeftBottom]);
+  s.tipText = tipHeading() + computerPassTip(w.game.chain.openNumber[End::RightTop],
+                                             w.game.chain.openNumber[End::LeftBottom]);
   closeComputersTurn(w);
 }
 
 void announcePlayersPass(MainWindow& w) {
-  GameState& s = w.state;
+  TableState& s = w.state;
   announce(w, Announcement::YouPass);
   if (s.tutorial.running) s.tutorial.nextIsComputers = true;
   selectLastCard(w);
-  s.tipText += playerPassTip(s.openNumber[End::RightTop], s.openNumber[End::LeftBottom]);
+  s.tipText += playerPassTip(w.game.chain.openNumber[End::RightTop],
+                             w.game.chain.openNumber[End::LeftBottom]);
   s.passAwaitsOk = true;
   placePopup(w);
   showTips(w);
@@ -72,7 +73,7 @@ void announcePlayersPass(MainWindow& w) {
 }
 
 void acknowledgePass(MainWindow& w) {
-  GameState& s = w.state;
+  TableState& s = w.state;
   s.passAwaitsOk = false;
   w.about.ok.visible = false;
   w.form.enabled = true;
@@ -81,15 +82,15 @@ void acknowledgePass(MainWindow& w) {
   w.timer.arm(replayDelay);
   announce(w, Announcement::ComputersTurnAgain);
   s.tipText = tipHeading() + replayTip();
-  ++s.passes[Side::Player];
+  ++w.game.counts.passes[Side::Player];
   closeComputersTurn(w);
 }
 
 void closeComputersTurn(MainWindow& w) {
   // QUIRK-10: a deadlock that was decided just before is recorded a second time here. One would
   // expect one loss a game; the statistics count two. Meant.
-  if (w.state.cardsLeft[Side::Computer] == 0) computerHasWon(w);
-  if (turnWasPlain(w.state)) appendGeneralTip(w);
+  if (w.game.counts.cardsLeft[Side::Computer] == 0) computerHasWon(w);
+  if (turnWasPlain(w)) appendGeneralTip(w);
   w.form.giveFocus(w.tutorial.next);
 }
 

@@ -13,18 +13,20 @@ namespace {
 
 /// Puts the frame in its place and takes the marks off the card and the one that it joins.
 void layAt(MainWindow& w, int slot, End end) {
-  GameState& s = w.state;
+  TableState& s = w.state;
   CardControls& card = w.card(slot);
-  if (const auto joined = s.endCard[end]) w.card(*joined).paintNumbers(handColour);
+  if (const auto joined = w.game.chain.endCard[end]) w.card(*joined).paintNumbers(handColour);
   card.paintNumbers(handColour);
-  const Laying laying = joinChain(s, slot, end);
-  s.playerAimsLeftBottom = false;
+  const Laying laying = joinChain(w.game, slot, end);
+  s.layPosition = laying.position;
+  s.layColumn = laying.column;
+  w.game.aimsLeftBottom[Side::Player] = false;
   if (laying.inFront) {
     w.form.bringToFront(card.frame);
   } else {
     w.form.sendToBack(card.frame);
   }
-  if (const auto move = markerMoveOf(end, s.laidAt[end])) {
+  if (const auto move = markerMoveOf(end, w.game.chain.laidAt[end])) {
     putAt(w.table.markers[move->marker], move->place, w.scale());
   }
   glideCard(w);
@@ -39,10 +41,10 @@ void putAt(Box& box, GridPoint at, double scale) {
 }
 
 bool layCard(MainWindow& w, int card) {
-  GameState& s = w.state;
+  TableState& s = w.state;
   s.playCard = card;
   w.timer.disarm();
-  const auto end = endFor(s, card);
+  const auto end = endFor(w.game, card);
   s.cardWasLaid = end.has_value();
   if (!end) return false;
   // Its buttons would otherwise lay a card that the player no longer has in mind.
@@ -52,10 +54,10 @@ bool layCard(MainWindow& w, int card) {
 }
 
 void glideCard(MainWindow& w) {
-  const GameState& s = w.state;
+  const TableState& s = w.state;
   // QUIRK-06: no glide once the player holds no fitting card. One would expect every card to glide;
   // the player sees this one stand in its place at once. Meant.
-  if (mustPass(s, Side::Player)) return;
+  if (mustPass(w.game, Side::Player)) return;
 
   Frame& frame = w.card(s.playCard).frame;
   // QUIRK-05: the target is the Right/Top side for both ends. One would expect the card's own side;

@@ -18,13 +18,13 @@ namespace {
 
 /// During the tutorial the player's cards are played by NEXT alone; after the end by nobody, also
 /// when a new table size has shown the Discard button again.
-bool gameTakesCards(const GameState& s) {
-  return s.takesCards && !s.gameOver && !s.tutorial.running;
+bool gameTakesCards(const MainWindow& w) {
+  return w.state.takesCards && !w.game.ending.over && !w.state.tutorial.running;
 }
 
 /// A card on the table is never played again, so the choice is for held ones only.
-bool offersChoice(const GameState& s, int card) {
-  return s.card(card).held && makesSameNumber(s, card);
+bool offersChoice(const Game& game, int card) {
+  return game.card(card).held && makesSameNumber(game, card);
 }
 
 /// What the player does at the table presses the panel's OK first.
@@ -52,13 +52,13 @@ void refuseCard(MainWindow& w, bool replyWasDue) {
 /// QUIRK-36: takes a card also while the computer's reply is due. One would expect the player to
 /// wait; several cards laid in time meet one reply, a second after the last of them. Meant.
 void laySelectedCard(MainWindow& w) {
-  GameState& s = w.state;
+  TableState& s = w.state;
   const int card = s.selectedCard;
-  if (!s.card(card).held) return;
+  if (!w.game.card(card).held) return;
   s.selectedCard = noSelection;
   const bool replyWasDue = w.timer.enabled;
   if (layCard(w, card)) {
-    --s.cardsLeft[Side::Player];
+    --w.game.counts.cardsLeft[Side::Player];
     afterPlayersCard(w);
   } else {
     refuseCard(w, replyWasDue);
@@ -68,40 +68,41 @@ void laySelectedCard(MainWindow& w) {
 /// QUIRK-13: looks at twelve places after the current one, and from no selection starts at card 2.
 /// One would expect all fourteen in turn; the player reaches cards 0 and 1 only on the second
 /// round, and with one card left every other press selects an empty place. Meant.
-int nextSelection(const GameState& s) {
-  const int current = s.selectedCard;
+int nextSelection(const MainWindow& w) {
+  const int current = w.state.selectedCard;
   int card = current;
   for (int j = current + 1; j <= current + 12; ++j) {
     card = j >= handSize ? j - handSize : j;
-    if (s.card(card).held) break;
+    if (w.game.card(card).held) break;
   }
   return card;
 }
 
 /// With the choice at once, where the card makes the same number.
 void selectNextCard(MainWindow& w) {
-  GameState& s = w.state;
+  TableState& s = w.state;
   w.card(s.selectedCard).paintNumbers(handColour);
-  s.selectedCard = nextSelection(s);
+  s.selectedCard = nextSelection(w);
   w.card(s.selectedCard).paintNumbers(selectionColour);
-  if (offersChoice(s, s.selectedCard)) openChoice(w, s.selectedCard);
+  if (offersChoice(w.game, s.selectedCard)) openChoice(w, s.selectedCard);
 }
 
 }  // namespace
 
 void doubleClickCard(MainWindow& w, int card) {
-  GameState& s = w.state;
+  TableState& s = w.state;
   if (s.tutorial.running) return;
   // QUIRK-19: every double-click resets the tip, also one that does nothing else, as on a card of
   // the computer's or after the end. The player's tip then is a bare heading. Meant.
   resetTip(w);
-  if (!gameTakesCards(s) || ownerOf(card) == Side::Computer) return;
+  if (!gameTakesCards(w) || ownerOf(card) == Side::Computer) return;
   s.selectedCard = card;
   // QUIRK-14: the last card is laid without the choice, while 'p' opens it for the last card too.
   // One would expect the same of both. Meant.
-  if (s.cardsLeft[Side::Player] > 1 && offersChoice(s, card)) {
+  if (w.game.counts.cardsLeft[Side::Player] > 1 && offersChoice(w.game, card)) {
     openChoice(w, card);
-    s.tipText += sameNumberTip(s.openNumber[End::RightTop], s.openNumber[End::LeftBottom]);
+    s.tipText += sameNumberTip(w.game.chain.openNumber[End::RightTop],
+                               w.game.chain.openNumber[End::LeftBottom]);
   } else {
     pressDiscard(w);
   }
@@ -110,11 +111,11 @@ void doubleClickCard(MainWindow& w, int card) {
 }
 
 void pressDiscard(MainWindow& w) {
-  GameState& s = w.state;
+  TableState& s = w.state;
   closePanelIfOpen(w);
   // QUIRK-17: also while the choice is open. One would expect the choice to come first; Discard
   // lays the selected card at the Right/Top end. Meant.
-  if (s.selectedCard != noSelection && gameTakesCards(s)) laySelectedCard(w);
+  if (s.selectedCard != noSelection && gameTakesCards(w)) laySelectedCard(w);
   s.cardWasLaid = false;
 }
 
@@ -130,7 +131,7 @@ void pressKey(MainWindow& w, const Control& focused, int key) {
     pressDiscard(w);
   } else if (w.state.takesCards && (&focused == &w.discard || selects)) {
     closePanelIfOpen(w);
-    if (selects && gameTakesCards(w.state)) selectNextCard(w);
+    if (selects && gameTakesCards(w)) selectNextCard(w);
   }
 }
 

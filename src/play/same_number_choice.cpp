@@ -15,9 +15,9 @@ void layChosenCard(MainWindow& w, End end) {
   resetTip(w);
   closeChoice(w);
   w.status.visible = false;
-  if (end == End::LeftBottom) w.state.playerAimsLeftBottom = true;
+  if (end == End::LeftBottom) w.game.aimsLeftBottom[Side::Player] = true;
   layCard(w, w.state.playCard);
-  --w.state.cardsLeft[Side::Player];
+  --w.game.counts.cardsLeft[Side::Player];
   afterPlayersCard(w);
 }
 
@@ -41,9 +41,9 @@ void cancelChoice(MainWindow& w) {
 void answerByKey(MainWindow& w, int key) {
   if (key == keyEscape) {
     cancelChoice(w);
-  } else if (key == digitKey(w.state.openNumber[End::RightTop])) {
+  } else if (key == digitKey(w.game.chain.openNumber[End::RightTop])) {
     chooseLeftBottom(w);
-  } else if (key == digitKey(w.state.openNumber[End::LeftBottom])) {
+  } else if (key == digitKey(w.game.chain.openNumber[End::LeftBottom])) {
     chooseRightTop(w);
   }
 }

@@ -21,8 +21,8 @@ std::optional<SavedSettings> readSettings(Desktop& desktop) {
 
 void takeSettings(MainWindow& w, const SavedSettings& saved) {
   w.state.savedLevels = {saved.playerLevel, saved.computerLevel};
-  w.state.playerLevel = saved.playerLevel;
-  w.state.computerLevel = saved.computerLevel;
+  w.game.levels.player = saved.playerLevel;
+  w.game.levels.computer = saved.computerLevel;
   takeTableSize(w, saved.tableSize);
 }
 
@@ -46,8 +46,8 @@ void takeDefaults(MainWindow& w) {
   // command writes a torn line, which is then refused. One would expect both to be 1; the player's
   // first choice of a level does not take and resets both files again. Meant.
   w.state.savedLevels = {};
-  w.state.playerLevel = 1;
-  w.state.computerLevel = 1;
+  w.game.levels.player = 1;
+  w.game.levels.computer = 1;
   // QUIRK-38: one file that cannot be read resets the other as well. One would expect the
   // statistics to survive a torn settings file; the player starts from no games. Meant.
   makeFilesAnew(w);

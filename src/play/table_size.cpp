@@ -117,7 +117,7 @@ void rescaleTable(MainWindow& w, double factor) {
 }
 
 void scrollTableSize(MainWindow& w, int tableSize) {
-  GameState& s = w.state;
+  TableState& s = w.state;
   w.sizePanel.bar.value = tableSize;
   // Without a size before there is no ratio; the number that stands in its place is the card last
   // played, as for every factor that could not be worked out.

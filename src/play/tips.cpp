@@ -14,10 +14,11 @@ constexpr std::string_view windowHeading =
 void resetTip(MainWindow& w) { w.state.tipText = tipHeading(); }
 
 void appendGeneralTip(MainWindow& w) {
-  GameState& s = w.state;
+  TableState& s = w.state;
   // QUIRK-15: nothing is reset here, so with the keyboard alone the tip grows turn by turn. One
   // would expect the last turn's tip only; the player reads the earlier ones above it. Meant.
-  s.tipText += generalTip(s.openNumber[End::RightTop], s.openNumber[End::LeftBottom]);
+  s.tipText +=
+      generalTip(w.game.chain.openNumber[End::RightTop], w.game.chain.openNumber[End::LeftBottom]);
 }
 
 void openTips(MainWindow& w) {

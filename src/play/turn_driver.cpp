@@ -20,7 +20,7 @@ void giveTurnToPlayer(MainWindow& w) {
 }  // namespace
 
 void tick(MainWindow& w) {
-  const GameState& s = w.state;
+  const TableState& s = w.state;
   // While another window has disabled this one no move is made; the timer goes on and comes again.
   if (!w.form.enabled) return;
   if (s.tutorial.nextIsComputers) {

@@ -20,15 +20,15 @@ namespace {
 constexpr PixelVector nextButton{112, 230};
 
 void chooseCardToShow(MainWindow& w) {
-  GameState& s = w.state;
+  TableState& s = w.state;
   for (const int card : scanned(Side::Player, scanFor(w.desktop.random()))) {
     s.playCard = card;
-    if (s.card(card).held && fits(s, card)) return;
+    if (w.game.card(card).held && fits(w.game, card)) return;
   }
 }
 
 void demonstrateMove(MainWindow& w) {
-  GameState& s = w.state;
+  TableState& s = w.state;
   s.demo.done = false;
   s.demo.busy = true;
   s.tutorial.nextIsComputers = true;
@@ -70,7 +70,7 @@ constexpr std::array<TutorialPhase, 4> phases{{
 }  // namespace
 
 void startTutorial(MainWindow& w) {
-  GameState& s = w.state;
+  TableState& s = w.state;
   s.tutorial = {.running = true, .untilFirstCard = true, .computerWaitsForNext = true};
   s.demo.busy = false;
   w.tutorial.show(true);
@@ -81,7 +81,7 @@ void startTutorial(MainWindow& w) {
 }
 
 void pressNext(MainWindow& w) {
-  const GameState& s = w.state;
+  const TableState& s = w.state;
   resetTip(w);
   for (const TutorialPhase& phase : phases) {
     if (phase.nextIsComputers == s.tutorial.nextIsComputers && phase.demonstrating == s.demo.busy) {

@@ -4,7 +4,8 @@
 #include <string>
 #include <string_view>
 
-#include "game/state.h"
+#include "game/game.h"
+#include "game/grid.h"
 
 /// The settings file: both levels and the table size, as the text of one line ("1/1/99").
 namespace mevracard {

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "game/state.h"
+#include "game/game.h"
 
 /// The statistics, games won and lost, as the text of their file. Any text is accepted: what is
 /// missing or no code counts as nothing.

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "game/state.h"
+#include "game/cards.h"
 #include "platform/form.h"
 
 /// The controls of the main window that belong together.

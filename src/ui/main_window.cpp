@@ -26,26 +26,26 @@ void MainWindow::keepAboutClear() {
   window.placed = false;
   window.clearOf = {&choice.leftBottom, &choice.rightTop, &choice.cancel};
   for (std::size_t i = 0; i < cardCount; ++i) {
-    if (!state.cards[i].held) window.clearOf.push_back(&cards[i].frame);
+    if (!game.cards[i].held) window.clearOf.push_back(&cards[i].frame);
   }
 }
 
 void MainWindow::refresh() {
   for (std::size_t i = 0; i < cardCount; ++i) {
-    showNumber(cards[i].upper, state.cards[i].upper);
-    showNumber(cards[i].lower, state.cards[i].lower);
+    showNumber(cards[i].upper, game.cards[i].upper);
+    showNumber(cards[i].lower, game.cards[i].lower);
   }
   for (const Side side : {Side::Computer, Side::Player}) {
-    showNumber(table.cardsLeft[side].count, state.cardsLeft[side]);
-    showNumber(table.passes[side].count, state.passes[side]);
+    showNumber(table.cardsLeft[side].count, game.counts.cardsLeft[side]);
+    showNumber(table.passes[side].count, game.counts.passes[side]);
   }
   form.growth = std::max(1.0, static_cast<double>(largestTableSize) / std::max(1, state.tableSize));
   discard.visible = state.takesCards;
-  result.deadlock.visible = state.deadlock;
-  menu.playerLevel1.checked = state.playerLevel == 1;
-  menu.playerLevel2.checked = state.playerLevel == 2;
-  menu.computerLevel1.checked = state.computerLevel == 1;
-  menu.computerLevel2.checked = state.computerLevel == 2;
+  result.deadlock.visible = game.ending.deadlock;
+  menu.playerLevel1.checked = game.levels.player == 1;
+  menu.playerLevel2.checked = game.levels.player == 2;
+  menu.computerLevel1.checked = game.levels.computer == 1;
+  menu.computerLevel2.checked = game.levels.computer == 2;
   form.settleFocus();
   about.form.settleFocus();
   statistics.form.settleFocus();

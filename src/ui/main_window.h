@@ -5,24 +5,26 @@
 #include <string_view>
 
 #include "game/deal.h"
-#include "game/state.h"
+#include "game/game.h"
 #include "platform/desktop.h"
 #include "ui/about_window.h"
 #include "ui/controls.h"
 #include "ui/news.h"
 #include "ui/statistics_window.h"
+#include "ui/table_state.h"
 
 namespace mevracard {
 
-/// The main window with all its controls, the one game state, the other two windows and the desktop
-/// they are shown on.
+/// The main window with all its controls, the one game, what the player is told of it, the other
+/// two windows and the desktop they are shown on.
 struct MainWindow {
   explicit MainWindow(Desktop& desktop);
   MainWindow(const MainWindow&) = delete;
   MainWindow& operator=(const MainWindow&) = delete;
 
   Desktop& desktop;
-  GameState state;
+  Game game;
+  TableState state;
   std::optional<Deck> stackedDeck;  ///< dealt instead of a shuffled one, to set up a situation
 
   Form form;

@@ -31,7 +31,7 @@ void MainWindow::speak() {
   const bool returns = std::exchange(heard.aside, aside) && !aside;
   if (aside) takeBackNews(form.speech);
   speakOfTable();
-  heard.news.note(state, std::exchange(playerActed, false));
+  heard.news.note(game, state, std::exchange(playerActed, false));
   if (returns && !form.speech.unsaid) heard.news.oweAnswer();
   if (!replyIsDue(*this)) speakOfGame();
   speakOfAbout();
@@ -40,18 +40,18 @@ void MainWindow::speak() {
 
 void MainWindow::speakBeforeBox() {
   speakOfTable();
-  heard.news.note(state, playerActed);
+  heard.news.note(game, state, playerActed);
   heard.news.oweAnswer();
   takeBackNews(form.speech);
 }
 
 void MainWindow::speakOfTable() {
   form.speech.lists = spokenLists(*this);
-  form.speech.line = state.openings == 0 ? form.caption : standing(state);
+  form.speech.line = game.chain.openings == 0 ? form.caption : standing(game, state);
 }
 
 void MainWindow::speakOfGame() {
-  const std::string words = heard.news.tell(state);
+  const std::string words = heard.news.tell(game, state);
   if (!words.empty()) (state.passAwaitsOk ? about.form : form).speech.tell(words);
 }
 

@@ -7,18 +7,18 @@
 
 namespace mevracard {
 
-News::Told News::all(const GameState& s) {
+News::Told News::all(const Game& game, const TableState& state) {
   Told all;
-  all.hands = s.openings > 0;
-  all.laid = s.laidCount;
-  all.computersPasses = s.passes[Side::Computer];
-  all.announcement = s.announcement;
-  if (s.choiceOpen) all.choice = s.playCard;
-  if (s.demo.busy) all.shown = s.playCard;
-  if (s.sizePanelOpen) all.size = s.tableSize;
-  all.pass = s.passAwaitsOk;
-  all.over = s.gameOver;
-  all.demonstration = s.tutorial.running;
+  all.hands = game.chain.openings > 0;
+  all.laid = static_cast<int>(game.chain.laid.size());
+  all.computersPasses = game.counts.passes[Side::Computer];
+  all.announcement = state.announcement;
+  if (state.choiceOpen) all.choice = state.playCard;
+  if (state.demo.busy) all.shown = state.playCard;
+  if (state.sizePanelOpen) all.size = state.tableSize;
+  all.pass = state.passAwaitsOk;
+  all.over = game.ending.over;
+  all.demonstration = state.tutorial.running;
   return all;
 }
 
@@ -30,30 +30,30 @@ void News::startAnew() {
   laid_ = false;
 }
 
-void News::note(const GameState& s, bool playerActed) {
-  if (s.laidCount < told_.laid) startAnew();
-  if (std::exchange(refusals_, s.refusals) != s.refusals) {
-    noteMoves(s);  // before the refusal
-    moves_ += nameOf(s.card(s.playCard)) + " does not fit. ";
+void News::note(const Game& game, const TableState& state, bool playerActed) {
+  if (static_cast<int>(game.chain.laid.size()) < told_.laid) startAnew();
+  if (std::exchange(refusals_, state.refusals) != state.refusals) {
+    noteMoves(game);  // before the refusal
+    moves_ += nameOf(game.card(state.playCard)) + " does not fit. ";
   }
   // A pass selects a card too, of which nobody is told.
-  if (std::exchange(selected_, s.selectedCard) != s.selectedCard) picked_ = playerActed;
-  told_.pass = told_.pass && s.passAwaitsOk;
+  if (std::exchange(selected_, state.selectedCard) != state.selectedCard) picked_ = playerActed;
+  told_.pass = told_.pass && state.passAwaitsOk;
   answerIsDue_ = answerIsDue_ || playerActed;
 }
 
-void News::noteMoves(const GameState& s) {
-  if (!told_.hands && s.openings > 0) moves_ += "New game. " + dealtHands(s);
-  const std::string laid = laidCards(s, told_.laid);
+void News::noteMoves(const Game& game) {
+  if (!told_.hands && game.chain.openings > 0) moves_ += "New game. " + dealtHands(game);
+  const std::string laid = laidCards(game, told_.laid);
   moves_ += laid;
   laid_ = laid_ || !laid.empty();
-  told_.hands = s.openings > 0;
-  told_.laid = s.laidCount;
+  told_.hands = game.chain.openings > 0;
+  told_.laid = static_cast<int>(game.chain.laid.size());
 }
 
-std::string News::tell(const GameState& s) {
-  const Told now = all(s);
-  noteMoves(s);
+std::string News::tell(const Game& game, const TableState& state) {
+  const Told now = all(game, state);
+  noteMoves(game);
   if (told_.size && !now.size) answerIsDue_ = true;
   std::string words;
   if (told_.demonstration && !now.demonstration && !now.over) words += demonstrationEnds();
@@ -61,35 +61,36 @@ std::string News::tell(const GameState& s) {
   words += moves_;
   // Else a message box has told it.
   if (now.over && now.computersPasses > told_.computersPasses) words += "Computer passes. ";
-  if (laid_) words += openNumbers(s);
-  words += now.choice ? selection(s) + situation(s, now) : situation(s, now) + selection(s);
-  if (words.empty() && answerIsDue_) words = prompt(s);
+  if (laid_) words += openNumbers(game.chain);
+  words += now.choice ? selection(game, state) + situation(game, state, now)
+                      : situation(game, state, now) + selection(game, state);
+  if (words.empty() && answerIsDue_) words = prompt(game, state);
   told_ = now;
   moves_.clear();
   laid_ = picked_ = answerIsDue_ = false;
   return words;
 }
 
-std::string News::selection(const GameState& s) const {
-  if (!picked_ || s.selectedCard >= handSize) return "";
-  return s.card(s.selectedCard).held ? cardInHand(s, s.selectedCard) + ". "
-                                     : "No card is selected. ";
+std::string News::selection(const Game& game, const TableState& state) const {
+  if (!picked_ || state.selectedCard >= handSize) return "";
+  return game.card(state.selectedCard).held ? cardInHand(game, state.selectedCard) + ". "
+                                            : "No card is selected. ";
 }
 
-std::string News::ending(const GameState& s) const {
-  return resultWords(s) + (told_.demonstration ? demonstrationEnds() : "");
+std::string News::ending(const Game& game) const {
+  return resultWords(game) + (told_.demonstration ? demonstrationEnds() : "");
 }
 
-std::string News::situation(const GameState& s, const Told& now) const {
-  if (now.over && !told_.over) return ending(s);
+std::string News::situation(const Game& game, const TableState& state, const Told& now) const {
+  if (now.over && !told_.over) return ending(game);
   if (now.size && now.size != told_.size) {
-    return told_.size ? std::to_string(*now.size) + ". " : panelWords(s);
+    return told_.size ? std::to_string(*now.size) + ". " : panelWords(state);
   }
   if (now.over) return "";
   if (now.pass) return told_.pass ? "" : passWords();
-  if (now.choice) return now.choice == told_.choice ? "" : choiceWords(s);
-  if (now.shown) return now.shown == told_.shown ? "" : shownCard(s);
-  return laid_ || now.announcement != told_.announcement ? turnWords(s) : "";
+  if (now.choice) return now.choice == told_.choice ? "" : choiceWords(game);
+  if (now.shown) return now.shown == told_.shown ? "" : shownCard(game, state.playCard);
+  return laid_ || now.announcement != told_.announcement ? turnWords(state) : "";
 }
 
 }  // namespace mevracard

@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "game/state.h"
+#include "ui/table_state.h"
 
 namespace mevracard {
 
@@ -11,12 +11,12 @@ namespace mevracard {
 class News {
  public:
   /// After every event, whether it is told now or later.
-  void note(const GameState& s, bool playerActed);
+  void note(const Game& game, const TableState& state, bool playerActed);
   /// The player is to hear how things stand, even if nothing has happened.
   void oweAnswer() { answerIsDue_ = true; }
 
   /// All that was not told yet; empty if nothing was.
-  [[nodiscard]] std::string tell(const GameState& s);
+  [[nodiscard]] std::string tell(const Game& game, const TableState& state);
 
  private:
   /// What the player knows.
@@ -32,12 +32,13 @@ class News {
     bool demonstration = false;
   };
 
-  [[nodiscard]] static Told all(const GameState& s);
+  [[nodiscard]] static Told all(const Game& game, const TableState& state);
   void startAnew();
-  void noteMoves(const GameState& s);
-  [[nodiscard]] std::string selection(const GameState& s) const;
-  [[nodiscard]] std::string ending(const GameState& s) const;
-  [[nodiscard]] std::string situation(const GameState& s, const Told& now) const;
+  void noteMoves(const Game& game);
+  [[nodiscard]] std::string selection(const Game& game, const TableState& state) const;
+  [[nodiscard]] std::string ending(const Game& game) const;
+  [[nodiscard]] std::string situation(const Game& game, const TableState& state,
+                                      const Told& now) const;
 
   Told told_;
   std::string moves_;  ///< not told yet

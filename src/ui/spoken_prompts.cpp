@@ -9,52 +9,52 @@ namespace mevracard {
 
 namespace {
 
-std::string sumWords(const GameState& s, Side side) {
-  return std::to_string(leftover(s, side).sum) + ". ";
+std::string sumWords(const Game& game, Side side) {
+  return std::to_string(leftover(game, side).sum) + ". ";
 }
 
 /// Of a card that fits there.
-std::string fitWords(const GameState& s, End end) {
-  const std::string number = std::to_string(s.openNumber[end]);
+std::string fitWords(const Chain& chain, End end) {
+  const std::string number = std::to_string(chain.openNumber[end]);
   return "Its " + number + " fits the " + number + " at " + nameOf(end) + ". ";
 }
 
-std::string turnPrompt(const GameState& s) {
-  const int slot = s.selectedCard;
-  if (slot >= handSize || !s.card(slot).held) {
-    return turnWords(s) + "Press P to select a card, then Enter to lay it. ";
+std::string turnPrompt(const Game& game, const TableState& state) {
+  const int slot = state.selectedCard;
+  if (slot >= handSize || !game.card(slot).held) {
+    return turnWords(state) + "Press P to select a card, then Enter to lay it. ";
   }
-  const std::string card = cardInHand(s, slot) + ". Press ";
+  const std::string card = cardInHand(game, slot) + ". Press ";
   return card +
-         (fits(s, slot) ? "Enter to lay it, or P for another card. " : "P for another card. ");
+         (fits(game, slot) ? "Enter to lay it, or P for another card. " : "P for another card. ");
 }
 
 }  // namespace
 
-std::string turnWords(const GameState& s) {
-  const std::string text = statusText(s.announcement, s.tutorial.running);
+std::string turnWords(const TableState& state) {
+  const std::string text = statusText(state.announcement, state.tutorial.running);
   return text + (text.ends_with('!') ? " " : ". ");
 }
 
-std::string standing(const GameState& s) {
-  if (s.choiceOpen) return choiceWords(s);
-  return s.gameOver ? "The game is over. " : turnWords(s);
+std::string standing(const Game& game, const TableState& state) {
+  if (state.choiceOpen) return choiceWords(game);
+  return game.ending.over ? "The game is over. " : turnWords(state);
 }
 
-std::string choiceWords(const GameState& s) {
-  return "Mevra " + std::to_string(s.openNumber[End::RightTop]) + " or Mevra " +
-         std::to_string(s.openNumber[End::LeftBottom]) + "? Type the number, or Escape. ";
+std::string choiceWords(const Game& game) {
+  return "Mevra " + std::to_string(game.chain.openNumber[End::RightTop]) + " or Mevra " +
+         std::to_string(game.chain.openNumber[End::LeftBottom]) + "? Type the number, or Escape. ";
 }
 
 std::string passWords() {
   return "You pass: no card of yours fits. After OK the computer moves again. ";
 }
 
-std::string shownCard(const GameState& s) {
-  const Card& card = s.card(s.playCard);
+std::string shownCard(const Game& game, int slot) {
+  const Card& card = game.card(slot);
   const std::string shown = "Shown: " + nameOf(card) + ". ";
   for (const End end : {End::RightTop, End::LeftBottom}) {
-    if (card.bears(s.openNumber[end])) return shown + fitWords(s, end);
+    if (card.bears(game.chain.openNumber[end])) return shown + fitWords(game.chain, end);
   }
   return shown + "It does not fit. ";
 }
@@ -65,24 +65,25 @@ std::string demonstrationBegins() {
 
 std::string demonstrationEnds() { return "The demonstration is over. "; }
 
-std::string panelWords(const GameState& s) {
-  return "Size of the table: " + std::to_string(s.tableSize) +
+std::string panelWords(const TableState& state) {
+  return "Size of the table: " + std::to_string(state.tableSize) +
          ". The arrow keys change it, Escape closes the panel. ";
 }
 
-std::string resultWords(const GameState& s) {
-  return (s.deadlock ? "DEADLOCK! " : "") + ("You Have: " + sumWords(s, Side::Player)) +
-         "Computer Has: " + sumWords(s, Side::Computer) +
-         (s.result == GameResult::Won ? "You win. " : "You lose. ");
+std::string resultWords(const Game& game) {
+  return (game.ending.deadlock ? "DEADLOCK! " : "") +
+         ("You Have: " + sumWords(game, Side::Player)) +
+         "Computer Has: " + sumWords(game, Side::Computer) +
+         (game.ending.result == GameResult::Won ? "You win. " : "You lose. ");
 }
 
-std::string prompt(const GameState& s) {
-  if (s.choiceOpen) return choiceWords(s);
-  if (s.sizePanelOpen) return panelWords(s);
-  if (s.gameOver) return "The game is over. F10 opens the menu: File, New Game. ";
-  if (s.demo.busy) return shownCard(s);
-  if (s.tutorial.running) return turnWords(s) + "Enter presses Next, Tab goes to Stop. ";
-  return turnPrompt(s);
+std::string prompt(const Game& game, const TableState& state) {
+  if (state.choiceOpen) return choiceWords(game);
+  if (state.sizePanelOpen) return panelWords(state);
+  if (game.ending.over) return "The game is over. F10 opens the menu: File, New Game. ";
+  if (state.demo.busy) return shownCard(game, state.playCard);
+  if (state.tutorial.running) return turnWords(state) + "Enter presses Next, Tab goes to Stop. ";
+  return turnPrompt(game, state);
 }
 
 }  // namespace mevracard

@@ -2,36 +2,36 @@
 
 #include <string>
 
-#include "game/state.h"
+#include "ui/table_state.h"
 
 /// What the player is told of the situation, and may do in it, in words.
 namespace mevracard {
 
 /// "Your Turn. "
-[[nodiscard]] std::string turnWords(const GameState& s);
+[[nodiscard]] std::string turnWords(const TableState& state);
 
 /// How things stand in one sentence.
-[[nodiscard]] std::string standing(const GameState& s);
+[[nodiscard]] std::string standing(const Game& game, const TableState& state);
 
 /// "Mevra 5 or Mevra 0? Type the number, or Escape. "
-[[nodiscard]] std::string choiceWords(const GameState& s);
+[[nodiscard]] std::string choiceWords(const Game& game);
 
 /// The player's pass, which waits for OK.
 [[nodiscard]] std::string passWords();
 
 /// The card that the demonstration is about to lay: "Shown: 3-5. Its 5 fits the 5 at Right/Top. "
-[[nodiscard]] std::string shownCard(const GameState& s);
+[[nodiscard]] std::string shownCard(const Game& game, int slot);
 
 [[nodiscard]] std::string demonstrationBegins();
 [[nodiscard]] std::string demonstrationEnds();
 
 /// The screen-size panel that has opened.
-[[nodiscard]] std::string panelWords(const GameState& s);
+[[nodiscard]] std::string panelWords(const TableState& state);
 
 /// "DEADLOCK! You Have: 20. Computer Has: 30. You win. "
-[[nodiscard]] std::string resultWords(const GameState& s);
+[[nodiscard]] std::string resultWords(const Game& game);
 
 /// What a key is to be pressed for now.
-[[nodiscard]] std::string prompt(const GameState& s);
+[[nodiscard]] std::string prompt(const Game& game, const TableState& state);
 
 }  // namespace mevracard

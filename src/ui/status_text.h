@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "game/state.h"
+#include "ui/table_state.h"
 
 namespace mevracard {
 

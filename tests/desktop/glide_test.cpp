@@ -15,11 +15,11 @@ TEST(Glide, EndsInPlaceAndEatsNoKey) {
   ASSERT_TRUE(screen.waitFor([&] { return !w.timer.enabled; }));
   const auto hand = handOf(Side::Player);
   const auto fitting =
-      std::find_if(hand.begin(), hand.end(), [&](int slot) { return fits(w.state, slot); });
+      std::find_if(hand.begin(), hand.end(), [&](int slot) { return fits(w.game, slot); });
   ASSERT_NE(fitting, hand.end());
   const Frame& frame = w.card(*fitting).frame;
   screen.doubleClick(frame);
-  ASSERT_TRUE(screen.waitFor([&] { return !w.state.card(*fitting).held; }));
+  ASSERT_TRUE(screen.waitFor([&] { return !w.game.card(*fitting).held; }));
   screen.key("p");  // in mid-glide
   ASSERT_TRUE(screen.waitFor([&] { return w.state.selectedCard != noSelection; }, 500));
   Screen::wait(300);

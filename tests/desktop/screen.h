@@ -15,7 +15,7 @@ class Screen final : public WindowGame {
  public:
   explicit Screen(int seed = 1, const std::string& settings = "1/1/99");
 
-  [[nodiscard]] GameState& state() { return window().state; }
+  [[nodiscard]] TableState& state() { return window().state; }
   /// The widget of a button, a scroll bar or a text.
   [[nodiscard]] QWidget& widget(const Control& control) const;
   /// Where a control is painted on the screen; none if it is not to be seen.

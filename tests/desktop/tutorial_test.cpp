@@ -30,12 +30,13 @@ TEST(Demonstration, EndsOnTheMarkedNumber) {
     Screen screen(3, c.settings);
     startTutorial(screen);
     MainWindow& w = screen.window();
-    GameState& s = w.state;
+    Game& game = w.game;
+    TableState& s = w.state;
     w.timer.disarm();
     // Only the card in this column fits: its lower number, at the Right/Top end.
-    for (const int slot : handOf(Side::Player)) s.card(slot) = {6, 6, s.card(slot).held};
-    s.card(c.column) = {6, 0, true};
-    s.openNumber = {};
+    for (const int slot : handOf(Side::Player)) game.card(slot) = {6, 6, game.card(slot).held};
+    game.card(c.column) = {6, 0, true};
+    game.chain.openNumber = {};
     screen.click(w.tutorial.next);
     ASSERT_TRUE(screen.waitFor([&] { return s.demo.busy; }));
     Screen::wait(50);

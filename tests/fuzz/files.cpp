@@ -20,11 +20,11 @@ void demand(bool holds, const char* what) {
 }
 
 /// A started program and its files.
-struct Game {
-  explicit Game(std::map<std::string, std::string, std::less<>> files) {
+struct Run {
+  explicit Run(std::map<std::string, std::string, std::less<>> files) {
     desktop.world.files = std::move(files);
     program.start();
-    demand(w.state.openings == 1, "a game is under way");
+    demand(w.game.chain.openings == 1, "a game is under way");
     demand(w.menu.playerLevel1.checked != w.menu.playerLevel2.checked &&
                w.menu.computerLevel1.checked != w.menu.computerLevel2.checked,
            "a level is checked");
@@ -40,7 +40,7 @@ struct Game {
         w.state.tableSize);
   }
   void checkNextStart() const {
-    demand(Game(desktop.world.files).choices() == choices(), "the next start finds the settings");
+    demand(Run(desktop.world.files).choices() == choices(), "the next start finds the settings");
   }
 
   HeadlessDesktop desktop;
@@ -49,10 +49,10 @@ struct Game {
 };
 
 /// A new game in the middle of one is a loss more; what follows the record stays.
-void loseAGame(Game& game) {
-  const std::string before = game.file(statisticsFile);
-  game.desktop.menu(game.w.menu.newGame);
-  const std::string after = game.file(statisticsFile);
+void loseAGame(Run& run) {
+  const std::string before = run.file(statisticsFile);
+  run.desktop.menu(run.w.menu.newGame);
+  const std::string after = run.file(statisticsFile);
   const std::string digits = decodeDigits(std::string_view(before).substr(0, 12));
   const Statistics old = statisticsOf(before);
   const bool whole = digits.size() == 6 && before.starts_with(encodeDigits(digits));
@@ -62,20 +62,20 @@ void loseAGame(Game& game) {
   demand(after.substr(12) == before.substr(12, before.size() - 14) + "\r\n", "the rest is kept");
 }
 
-void chooseLevel(Game& game, MenuEntry& level) {
-  game.desktop.menu(level);
+void chooseLevel(Run& run, MenuEntry& level) {
+  run.desktop.menu(level);
   demand(level.checked, "a level is taken");
-  demand(game.file(settingsFile) == game.choices(), "the settings are saved whole");
-  game.checkNextStart();
+  demand(run.file(settingsFile) == run.choices(), "the settings are saved whole");
+  run.checkNextStart();
 }
 
-void clearStatistics(Game& game) {
-  const StatisticsWindow& shown = game.w.statistics;
-  const Statistics statistics = statisticsOf(game.file(statisticsFile));
-  game.desktop.menu(game.w.menu.statistics);
+void clearStatistics(Run& run) {
+  const StatisticsWindow& shown = run.w.statistics;
+  const Statistics statistics = statisticsOf(run.file(statisticsFile));
+  run.desktop.menu(run.w.menu.statistics);
   demand(shown.won.caption == std::to_string(statistics.won), "wins are shown");
   demand(statistics.wonPercent + statistics.lostPercent <= 100, "percentages are at most 100");
-  game.desktop.click(game.w.statistics.clear);
+  run.desktop.click(run.w.statistics.clear);
   demand(shown.won.caption == "0" && shown.lost.caption == "0", "Clear clears");
 }
 
@@ -94,22 +94,22 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if ((data[0] & 32U) == 0) files.emplace(statisticsFile, bytes.substr(settings.size()));
   const bool usable = files.size() == 2 && parseSettings(settings);
 
-  Game game(files);
+  Run run(files);
   if (usable) {
-    demand(game.desktop.world.files == files, "a start changes nothing");
-    game.checkNextStart();
+    demand(run.desktop.world.files == files, "a start changes nothing");
+    run.checkNextStart();
   } else {
-    demand(game.w.menu.playerLevel1.checked && game.w.menu.computerLevel1.checked,
+    demand(run.w.menu.playerLevel1.checked && run.w.menu.computerLevel1.checked,
            "both levels are 1 by default");
-    demand(game.file(settingsFile) == "1/1/99\r\n", "the settings are made anew");
-    demand(game.file(statisticsFile) == emptyStatisticsText(), "and so is the record");
+    demand(run.file(settingsFile) == "1/1/99\r\n", "the settings are made anew");
+    demand(run.file(statisticsFile) == emptyStatisticsText(), "and so is the record");
   }
-  loseAGame(game);
-  game.checkNextStart();
-  for (MenuEntry* level : {&game.w.menu.playerLevel2, &game.w.menu.computerLevel2,
-                           &game.w.menu.playerLevel1, &game.w.menu.computerLevel1}) {
-    chooseLevel(game, *level);
+  loseAGame(run);
+  run.checkNextStart();
+  for (MenuEntry* level : {&run.w.menu.playerLevel2, &run.w.menu.computerLevel2,
+                           &run.w.menu.playerLevel1, &run.w.menu.computerLevel1}) {
+    chooseLevel(run, *level);
   }
-  clearStatistics(game);
+  clearStatistics(run);
   return 0;
 }

@@ -92,7 +92,7 @@ void Promises::checkPictures() const {
 }
 
 void Promises::checkCoveredCards() {
-  GameState& s = w_.state;
+  Game& s = w_.game;
   const auto turnNumbers = [&](int by) {
     int covered = 0;
     for (std::size_t i = 0; i < cardCount; ++i) {
@@ -114,7 +114,7 @@ void Promises::checkCoveredCards() {
 }
 
 const Box* Promises::fittingCard(simulate::RandomStream& random) const {
-  const auto card = simulate::chooseCard(w_.state, simulate::Style::Random, random);
+  const auto card = simulate::chooseCard(w_.game, simulate::Style::Random, random);
   return card ? &w_.card(*card).frame : nullptr;
 }
 

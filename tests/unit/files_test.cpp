@@ -121,7 +121,7 @@ TEST(SystemEnd, IsALossOfARunningGame) {
     desktop.world.files[std::string(statisticsFile)] = record("001002");
     Program program(desktop);
     program.start();
-    program.window().state.gameOver = over;
+    program.window().game.ending.over = over;
     program.window().form.enabled = false;
     messages = 0;
     program.handle({EventKind::SystemEnd, &program.window().form, nullptr, nullptr, 0});

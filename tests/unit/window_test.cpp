@@ -135,7 +135,7 @@ TEST(Windows, ShowTheRightThingsBehindMessages) {
   const MainWindow* window = nullptr;
   HeadlessDesktop desktop([&](std::string_view line) {
     if (!line.starts_with("> message") && !line.starts_with("> error")) return;
-    EXPECT_EQ(window->cards[0].upper.caption, std::to_string(window->state.cards[0].upper)) << line;
+    EXPECT_EQ(window->cards[0].upper.caption, std::to_string(window->game.cards[0].upper)) << line;
     hands.push_back(window->cards[0].frame.visible);
     status = window->status.caption;
     behind = cardsBehindStatus(*window);
@@ -154,10 +154,10 @@ TEST(Windows, ShowTheRightThingsBehindMessages) {
   EXPECT_EQ(hands, (std::vector{true, true, false}));
 
   desktop.menu(w.menu.tableSize);
-  for (const int slot : handOf(Side::Computer)) w.state.card(slot).held = false;
-  Card& card = w.state.card(0);
+  for (const int slot : handOf(Side::Computer)) w.game.card(slot).held = false;
+  Card& card = w.game.card(0);
   card.held = true;
-  w.state.openNumber = {{card.upper, card.lower}};
+  w.game.chain.openNumber = {{card.upper, card.lower}};
   takeComputersTurn(w);
   EXPECT_EQ(behind, cardCount);
   EXPECT_EQ(status, "Computer Passes!");

@@ -28,55 +28,56 @@ using Place = std::variant<int*, bool*, LateFlag, std::optional<int>*, double*, 
 /// A field by its script name; an array has more than one element.
 struct Field {
   std::string_view name;
-  Place (*placeIn)(GameState& s, int i);
+  Place (*placeIn)(Game& g, TableState& s, int i);
   Range range = anyCount;
   int elements = 1;
 };
 
 // clang-format off
-using S = GameState;
+using G = Game;
+using S = TableState;
 constexpr auto rightTop = End::RightTop;
 constexpr auto leftBottom = End::LeftBottom;
 constexpr std::array fields{
-    Field{"a",    [](S& s, int i) -> Place { return &s.card(i).upper; }, cardNumber, cardCount},
-    Field{"b",    [](S& s, int i) -> Place { return &s.card(i).lower; }, cardNumber, cardCount},
-    Field{"held", [](S& s, int i) -> Place { return &s.card(i).held; }, anyCount, cardCount},
-    Field{"kotak", [](S& s, int i) -> Place { return &s.openNumber[End(i)]; }, anyCount, 2},
-    Field{"k0",   [](S& s, int) -> Place { return &s.endCard[rightTop]; }, slot},
-    Field{"k1",   [](S& s, int) -> Place { return &s.endCard[leftBottom]; }, slot},
-    Field{"lina", [](S& s, int) -> Place { return &s.laidAt[rightTop]; }},
-    Field{"linb", [](S& s, int) -> Place { return &s.laidAt[leftBottom]; }},
-    Field{"kjumlah", [](S& s, int) -> Place { return &s.openings; }},
-    Field{"sisa", [](S& s, int i) -> Place {
-            return &(i < 2 ? s.cardsLeft : s.passes)[Side(i % 2)]; }, anyCount, 4},
-    Field{"theend", [](S& s, int) -> Place { return &s.gameOver; }},
-    Field{"playCard", [](S& s, int) -> Place { return &s.playCard; }, slot},
-    Field{"moveMade", [](S& s, int) -> Place { return &s.cardWasLaid; }},
-    Field{"layPosition", [](S& s, int) -> Place { return &s.layPosition; }},
-    Field{"layColumn", [](S& s, int) -> Place { return &s.layColumn; }},
-    Field{"leftEndChosen", [](S& s, int) -> Place { return &s.playerAimsLeftBottom; }},
-    Field{"ngisor", [](S& s, int) -> Place { return &s.computerAimsLeftBottom; }},
-    Field{"selectedCard", [](S& s, int) -> Place { return &s.selectedCard; }, slot},
-    Field{"tipText", [](S& s, int) -> Place { return &s.tipText; }},
-    Field{"computerPassed", [](S& s, int) -> Place { return &s.computerPassed; }},
-    Field{"larangan", [](S& s, int) -> Place { return &s.bannedNumber; }},
-    Field{"bahaya", [](S& s, int) -> Place { return &s.danger; }},
-    Field{"bahaya2", [](S& s, int) -> Place { return &s.secondDanger; }},
-    Field{"tutorialActive", [](S& s, int) -> Place { return &s.tutorial.computerWaitsForNext; }},
-    Field{"tutorialDeal", [](S& s, int) -> Place { return &s.tutorial.untilFirstCard; }},
-    Field{"demoMove", [](S& s, int) -> Place { return &s.tutorial.nextIsComputers; }},
-    Field{"demoBusy", [](S& s, int) -> Place { return &s.demo.busy; }},
-    Field{"demoDone", [](S& s, int) -> Place { return &s.demo.done; }},
-    Field{"demoTick", [](S& s, int) -> Place { return &s.demo.tick; }},
-    Field{"n1", [](S& s, int) -> Place { return &s.demo.offset.x; }},
-    Field{"n2", [](S& s, int) -> Place { return &s.demo.offset.y; }},
-    Field{"n3", [](S& s, int) -> Place { return &s.demo.start.x; }},
-    Field{"n4", [](S& s, int) -> Place { return &s.demo.start.y; }},
-    Field{"dealSeed", [](S& s, int) -> Place { return &s.dealSeed; }},
-    Field{"firstDealDone", [](S& s, int) -> Place { return LateFlag{&s.newGameAsked}; }},
-    Field{"screenHeight", [](S& s, int) -> Place { return &s.screenHeight; }},
-    Field{"twipsPerPixel", [](S& s, int) -> Place { return &s.twipsPerPixel; }},
-    Field{"screenValue", [](S& s, int) -> Place { return &s.tableSize; }},
+    Field{"a",    [](G& g, S&, int i) -> Place { return &g.card(i).upper; }, cardNumber, cardCount},
+    Field{"b",    [](G& g, S&, int i) -> Place { return &g.card(i).lower; }, cardNumber, cardCount},
+    Field{"held", [](G& g, S&, int i) -> Place { return &g.card(i).held; }, anyCount, cardCount},
+    Field{"kotak", [](G& g, S&, int i) -> Place { return &g.chain.openNumber[End(i)]; }, anyCount, 2},
+    Field{"k0",   [](G& g, S&, int) -> Place { return &g.chain.endCard[rightTop]; }, slot},
+    Field{"k1",   [](G& g, S&, int) -> Place { return &g.chain.endCard[leftBottom]; }, slot},
+    Field{"lina", [](G& g, S&, int) -> Place { return &g.chain.laidAt[rightTop]; }},
+    Field{"linb", [](G& g, S&, int) -> Place { return &g.chain.laidAt[leftBottom]; }},
+    Field{"kjumlah", [](G& g, S&, int) -> Place { return &g.chain.openings; }},
+    Field{"sisa", [](G& g, S&, int i) -> Place {
+            return &(i < 2 ? g.counts.cardsLeft : g.counts.passes)[Side(i % 2)]; }, anyCount, 4},
+    Field{"theend", [](G& g, S&, int) -> Place { return &g.ending.over; }},
+    Field{"playCard", [](G&, S& s, int) -> Place { return &s.playCard; }, slot},
+    Field{"moveMade", [](G&, S& s, int) -> Place { return &s.cardWasLaid; }},
+    Field{"layPosition", [](G&, S& s, int) -> Place { return &s.layPosition; }},
+    Field{"layColumn", [](G&, S& s, int) -> Place { return &s.layColumn; }},
+    Field{"leftEndChosen", [](G& g, S&, int) -> Place { return &g.aimsLeftBottom[Side::Player]; }},
+    Field{"ngisor", [](G& g, S&, int) -> Place { return &g.aimsLeftBottom[Side::Computer]; }},
+    Field{"selectedCard", [](G&, S& s, int) -> Place { return &s.selectedCard; }, slot},
+    Field{"tipText", [](G&, S& s, int) -> Place { return &s.tipText; }},
+    Field{"computerPassed", [](G& g, S&, int) -> Place { return &g.mind.hasPassed; }},
+    Field{"larangan", [](G& g, S&, int) -> Place { return &g.mind.bannedNumber; }},
+    Field{"bahaya", [](G& g, S&, int) -> Place { return &g.mind.danger; }},
+    Field{"bahaya2", [](G& g, S&, int) -> Place { return &g.mind.secondDanger; }},
+    Field{"tutorialActive", [](G&, S& s, int) -> Place { return &s.tutorial.computerWaitsForNext; }},
+    Field{"tutorialDeal", [](G&, S& s, int) -> Place { return &s.tutorial.untilFirstCard; }},
+    Field{"demoMove", [](G&, S& s, int) -> Place { return &s.tutorial.nextIsComputers; }},
+    Field{"demoBusy", [](G&, S& s, int) -> Place { return &s.demo.busy; }},
+    Field{"demoDone", [](G&, S& s, int) -> Place { return &s.demo.done; }},
+    Field{"demoTick", [](G&, S& s, int) -> Place { return &s.demo.tick; }},
+    Field{"n1", [](G&, S& s, int) -> Place { return &s.demo.offset.x; }},
+    Field{"n2", [](G&, S& s, int) -> Place { return &s.demo.offset.y; }},
+    Field{"n3", [](G&, S& s, int) -> Place { return &s.demo.start.x; }},
+    Field{"n4", [](G&, S& s, int) -> Place { return &s.demo.start.y; }},
+    Field{"dealSeed", [](G& g, S&, int) -> Place { return &g.dealSeed; }},
+    Field{"firstDealDone", [](G&, S& s, int) -> Place { return LateFlag{&s.newGameAsked}; }},
+    Field{"screenHeight", [](G&, S& s, int) -> Place { return &s.screenHeight; }},
+    Field{"twipsPerPixel", [](G&, S& s, int) -> Place { return &s.twipsPerPixel; }},
+    Field{"screenValue", [](G&, S& s, int) -> Place { return &s.tableSize; }},
 };
 // clang-format on
 
@@ -86,13 +87,14 @@ struct Found {
 };
 
 /// "held(3)" is element 3 of the array; the name must be written as it is shown.
-std::optional<Found> find(GameState& s, std::string_view name) {
+std::optional<Found> find(MainWindow& w, std::string_view name) {
   for (const Field& field : fields) {
     if (!name.starts_with(field.name)) continue;
-    if (field.elements == 1 && name == field.name) return Found{field.placeIn(s, 0), field.range};
+    if (field.elements == 1 && name == field.name)
+      return Found{field.placeIn(w.game, w.state, 0), field.range};
     for (int i = 0; field.elements > 1 && i < field.elements; ++i) {
       if (name == std::string(field.name) + "(" + std::to_string(i) + ")") {
-        return Found{field.placeIn(s, i), field.range};
+        return Found{field.placeIn(w.game, w.state, i), field.range};
       }
     }
   }
@@ -132,7 +134,7 @@ struct Writer {
 
 std::optional<std::string> fieldText(MainWindow& w, std::string_view name) {
   if (name == "scaleFactor") return decimalText(w.scale());
-  const auto found = find(w.state, name);
+  const auto found = find(w, name);
   if (!found) return std::nullopt;
   return std::visit(TextOf{}, found->place);
 }
@@ -141,10 +143,10 @@ void setField(MainWindow& w, std::string_view name, std::string_view value) {
   constexpr Range level{1, 2};
   if (name == "scaleFactor") throw ScriptError("scaleFactor follows from screenValue");
   if (name == "computerLevel") {
-    w.state.computerLevel = parseInteger(value, level);
+    w.game.levels.computer = parseInteger(value, level);
   } else if (name == "playerLevel") {
-    w.state.playerLevel = parseInteger(value, level);
-  } else if (const auto found = find(w.state, name)) {
+    w.game.levels.player = parseInteger(value, level);
+  } else if (const auto found = find(w, name)) {
     std::visit(Writer{value, found->range}, found->place);
   } else {
     throw ScriptError("no field " + excerpt(name));

@@ -34,8 +34,8 @@ void uncoverPlayCard(MainWindow& w) { w.card(w.state.playCard).uncover(); }
 
 /// Called by hand with cards left, which play never does, it hands the turn back to the player.
 void endWithComputersHand(MainWindow& w) {
-  if (w.state.cardsLeft[Side::Computer] == 0) return computerHasWon(w);
-  w.state.deadlock = false;
+  if (w.game.counts.cardsLeft[Side::Computer] == 0) return computerHasWon(w);
+  w.game.ending.deadlock = false;
   announce(w, Announcement::YourTurn);
   raiseStatus(w);
 }
@@ -64,8 +64,8 @@ constexpr std::array plain{
     Plain{"cmdscreen_Click", closeSizePanel},
 };
 
-std::string evaluationText(const GameState& s) {
-  switch (sameNumberVerdict(s)) {
+std::string evaluationText(const Game& game) {
+  switch (sameNumberVerdict(game)) {
     case SameNumberVerdict::WouldLose:
       return "1";
     case SameNumberVerdict::Harmless:
@@ -102,13 +102,13 @@ Procedure procedureNamed(std::string_view name, std::span<const std::string_view
   }
   if (name == "HitungMevra") {
     expectArguments(name, arguments, 0);
-    return [](MainWindow& w) { return evaluationText(w.state); };
+    return [](MainWindow& w) { return evaluationText(w.game); };
   }
   if (name == "noPlayableCard") {
     expectArguments(name, arguments, 2);
     constexpr Range slot{0, cardCount - 1};
     return [lo = parseInteger(arguments[0], slot), hi = parseInteger(arguments[1], slot)](
-               MainWindow& w) { return flagText(noneFits(w.state, slotsBetween(lo, hi))); };
+               MainWindow& w) { return flagText(noneFits(w.game, slotsBetween(lo, hi))); };
   }
   if (name == "ScreenScale") {
     expectArguments(name, arguments, 1);

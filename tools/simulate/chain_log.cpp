@@ -14,7 +14,7 @@ int slotAt(const MainWindow& w, GridPoint place) {
   putAt(wanted, place, w.scale());
   for (const int slot : allSlots) {
     const Frame& frame = w.cards[static_cast<std::size_t>(slot)].frame;
-    if (!w.state.card(slot).held && frame.left == wanted.left && frame.top == wanted.top) {
+    if (!w.game.card(slot).held && frame.left == wanted.left && frame.top == wanted.top) {
       return slot;
     }
   }
@@ -24,7 +24,7 @@ int slotAt(const MainWindow& w, GridPoint place) {
 JoinedCard cardAt(const MainWindow& w, End end, int n) {
   const Laying laying = layingOf(end, n);
   const int slot = slotAt(w, chainPlace(end, laying.position, laying.column));
-  const auto [upper, lower, held] = w.state.card(slot);
+  const auto [upper, lower, held] = w.game.card(slot);
   return {slot, end, laying.upperTouches ? upper : lower, laying.upperTouches ? lower : upper};
 }
 
@@ -33,7 +33,7 @@ JoinedCard cardAt(const MainWindow& w, End end, int n) {
 const std::vector<JoinedCard>& ChainLog::cardsLaid(const MainWindow& w) {
   laid_.clear();
   for (const End end : {End::RightTop, End::LeftBottom}) {
-    while (seen_[end] < w.state.laidAt[end]) laid_.push_back(cardAt(w, end, ++seen_[end]));
+    while (seen_[end] < w.game.chain.laidAt[end]) laid_.push_back(cardAt(w, end, ++seen_[end]));
   }
   return laid_;
 }

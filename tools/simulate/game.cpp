@@ -22,17 +22,17 @@ void count(Figures& figures, const std::vector<JoinedCard>& laid, Signature& sig
   }
 }
 
-void countResult(Figures& figures, const GameState& s, Signature& signature) {
-  const bool won = s.result == GameResult::Won;
+void countResult(Figures& figures, const Game& game, Signature& signature) {
+  const bool won = game.ending.result == GameResult::Won;
   ++(won ? figures.wins : figures.losses);
-  figures.deadlocks = s.deadlock ? 1 : 0;
-  figures.computer.passes = s.passes[Side::Computer];
-  figures.player.passes = s.passes[Side::Player];
-  figures.cardsOnTable = 1 + s.laidAt[End::RightTop] + s.laidAt[End::LeftBottom];
+  figures.deadlocks = game.ending.deadlock ? 1 : 0;
+  figures.computer.passes = game.counts.passes[Side::Computer];
+  figures.player.passes = game.counts.passes[Side::Player];
+  figures.cardsOnTable = 1 + game.chain.laidAt[End::RightTop] + game.chain.laidAt[End::LeftBottom];
   signature.fold(won ? 1 : 0);
-  signature.fold(s.deadlock ? 1 : 0);
-  signature.fold(s.passes[Side::Computer]);
-  signature.fold(s.passes[Side::Player]);
+  signature.fold(game.ending.deadlock ? 1 : 0);
+  signature.fold(game.counts.passes[Side::Computer]);
+  signature.fold(game.counts.passes[Side::Player]);
 }
 
 }  // namespace
@@ -61,13 +61,13 @@ Figures playGame(const Request& request, int number, Signature& signature) {
   };
   look();
   Figures figures;
-  for (int events = 0; !w.state.gameOver; ++events) {
+  for (int events = 0; !w.game.ending.over; ++events) {
     if (events == mostEvents) throw std::logic_error("the game does not end");
     table.goOn();
     look();
     count(figures, chain.cardsLaid(w), signature);
   }
-  countResult(figures, w.state, signature);
+  countResult(figures, w.game, signature);
   return figures;
 }
 

@@ -4,15 +4,16 @@
 
 namespace mevracard::simulate {
 
-std::optional<int> chooseCard(const GameState& s, Style style, RandomStream& random) {
+std::optional<int> chooseCard(const Game& game, Style style, RandomStream& random) {
   std::optional<int> chosen;
   int seen = 0;
   for (const int slot : handOf(Side::Player)) {
-    if (!s.card(slot).held || !fits(s, slot)) continue;
+    if (!game.card(slot).held || !fits(game, slot)) continue;
     ++seen;
     // The n-th card replaces the choice with probability 1/n: all are equally likely in the end.
-    const bool better = !chosen || (style == Style::Random && random.below(seen) == 0) ||
-                        (style == Style::Greedy && s.card(slot).sum() > s.card(*chosen).sum());
+    const bool better =
+        !chosen || (style == Style::Random && random.below(seen) == 0) ||
+        (style == Style::Greedy && game.card(slot).sum() > game.card(*chosen).sum());
     if (better) chosen = slot;
   }
   return chosen;

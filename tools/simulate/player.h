@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "game/state.h"
+#include "game/game.h"
 #include "simulate/random_stream.h"
 
 namespace mevracard::simulate {
@@ -15,7 +15,7 @@ enum class Style {
 };
 
 /// The slot to lay next, none if no card fits.
-[[nodiscard]] std::optional<int> chooseCard(const GameState& s, Style style, RandomStream& random);
+[[nodiscard]] std::optional<int> chooseCard(const Game& game, Style style, RandomStream& random);
 
 /// The end to lay at when the player is asked which number shall stay open: Right/Top, where any
 /// other card would go first; the random player takes either.

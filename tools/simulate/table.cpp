@@ -28,7 +28,7 @@ Attempt Table::next() {
     const bool left = chooseEnd(style_, random_) == End::LeftBottom;
     return desktop_.click(left ? w.choice.leftBottom : w.choice.rightTop);
   }
-  const auto card = chooseCard(w.state, style_, random_);
+  const auto card = chooseCard(w.game, style_, random_);
   if (!card) throw std::logic_error("the player is to move and has no card that fits");
   return desktop_.doubleClick(w.card(*card).frame);
 }

@@ -9,18 +9,20 @@ namespace mevracard::simulate {
 
 namespace {
 
-int heldBy(const GameState& s, Side side) {
+int heldBy(const Game& game, Side side) {
   const auto hand = handOf(side);
   return static_cast<int>(
-      std::count_if(hand.begin(), hand.end(), [&](int slot) { return s.card(slot).held; }));
+      std::count_if(hand.begin(), hand.end(), [&](int slot) { return game.card(slot).held; }));
 }
 
-int cardsLaid(const GameState& s) { return s.laidAt[End::RightTop] + s.laidAt[End::LeftBottom]; }
+int cardsLaid(const Game& game) {
+  return game.chain.laidAt[End::RightTop] + game.chain.laidAt[End::LeftBottom];
+}
 
 /// All numbers are 0 to 6 and no pair comes twice.
-bool isDoubleSixSet(const GameState& s) {
+bool isDoubleSixSet(const Game& game) {
   std::bitset<49> pairs;
-  for (const Card& card : s.cards) {
+  for (const Card& card : game.cards) {
     const auto [low, high] = std::minmax(card.upper, card.lower);
     if (low < 0 || high > 6) return false;
     pairs.set(static_cast<std::size_t>(7 * low + high));
@@ -28,12 +30,12 @@ bool isDoubleSixSet(const GameState& s) {
   return pairs.count() == cardCount;
 }
 
-bool isForChoice(const GameState& s, int card) {
-  return ownerOf(card) == Side::Player && s.card(card).held && makesSameNumber(s, card);
+bool isForChoice(const Game& game, int card) {
+  return ownerOf(card) == Side::Player && game.card(card).held && makesSameNumber(game, card);
 }
 
-bool isDoubleZero(const GameState& s, std::optional<int> card) {
-  return card && s.card(*card).isDouble() && s.card(*card).bears(0);
+bool isDoubleZero(const Game& game, std::optional<int> card) {
+  return card && game.card(*card).isDouble() && game.card(*card).bears(0);
 }
 
 }  // namespace
@@ -47,14 +49,14 @@ const char* TableWatch::complaint() {
 }
 
 const char* TableWatch::aboutChain() {
-  const GameState& s = w_.state;
-  if (cardsLaid(s) == 0) {  // a new game
+  const Game& game = w_.game;
+  if (cardsLaid(game) == 0) {  // a new game
     chain_.restart();
     open_ = {};
     surplus_ = 0;
-    endCard_ = {{s.endCard[End::RightTop], s.endCard[End::RightTop]}};
-    if (!isDoubleZero(s, s.endCard[End::RightTop])) return "a game starts with the 0-0";
-    if (s.gameOver) return "a new game is not over";
+    endCard_ = {{game.chain.endCard[End::RightTop], game.chain.endCard[End::RightTop]}};
+    if (!isDoubleZero(game, game.chain.endCard[End::RightTop])) return "a game starts with the 0-0";
+    if (game.ending.over) return "a new game is not over";
   }
   int players = 0;
   int computers = 0;
@@ -67,45 +69,48 @@ const char* TableWatch::aboutChain() {
   surplus_ += std::max(0, computers - 1);
   if (players > 1) return "the player lays one card at a time";
   if (players > 0 && computers > 0) return "an event is the move of one side";
-  if (computers > 0 && !replyWasDue_ && !s.tutorial.running) return "the computer waits its turn";
-  if (s.openNumber != open_) return "the active numbers are those that the chain's ends show";
-  if (s.endCard != endCard_) return "the end cards are the last ones laid there";
+  if (computers > 0 && !replyWasDue_ && !w_.state.tutorial.running)
+    return "the computer waits its turn";
+  if (game.chain.openNumber != open_)
+    return "the active numbers are those that the chain's ends show";
+  if (game.chain.endCard != endCard_) return "the end cards are the last ones laid there";
   return nullptr;
 }
 
 const char* TableWatch::aboutCards() const {
-  const GameState& s = w_.state;
-  const int players = heldBy(s, Side::Player);
-  const int computers = heldBy(s, Side::Computer);
-  if (!isDoubleSixSet(s)) return "the 28 cards are the double-six set";
-  if (players != s.cardsLeft[Side::Player]) return "the player's count is the player's held cards";
-  if (computers + surplus_ != s.cardsLeft[Side::Computer]) {
+  const Game& game = w_.game;
+  const int players = heldBy(game, Side::Player);
+  const int computers = heldBy(game, Side::Computer);
+  if (!isDoubleSixSet(game)) return "the 28 cards are the double-six set";
+  if (players != game.counts.cardsLeft[Side::Player])
+    return "the player's count is the player's held cards";
+  if (computers + surplus_ != game.counts.cardsLeft[Side::Computer]) {
     return "the computer's count misses the extra cards only";
   }
-  if (players + computers + cardsLaid(s) + 1 != cardCount) return "every card is somewhere";
+  if (players + computers + cardsLaid(game) + 1 != cardCount) return "every card is somewhere";
   for (std::size_t i = 0; i < cardCount; ++i) {
     const bool covered = w_.cards[i].back.ground.visible;
-    if (!s.cards[i].held && covered) return "a card on the table shows its face";
+    if (!game.cards[i].held && covered) return "a card on the table shows its face";
   }
   return nullptr;
 }
 
 const char* TableWatch::aboutTurn() const {
-  const GameState& s = w_.state;
-  if (s.selectedCard >= handSize && s.selectedCard != noSelection) {
+  const Game& game = w_.game;
+  if (w_.state.selectedCard >= handSize && w_.state.selectedCard != noSelection) {
     return "the player selects from the player's hand";
   }
-  if (s.choiceOpen && !isForChoice(s, s.playCard)) {
+  if (w_.state.choiceOpen && !isForChoice(game, w_.state.playCard)) {
     return "the choice is about a held card that makes the same number";
   }
-  if (s.passAwaitsOk && (s.gameOver || !mustPass(s, Side::Player))) {
+  if (w_.state.passAwaitsOk && (game.ending.over || !mustPass(game, Side::Player))) {
     return "a pass is announced where there is one";
   }
-  if (s.gameOver) return w_.timer.enabled ? "nothing is pending after the end" : nullptr;
-  const bool someoneGoesOn =
-      w_.timer.enabled || s.passAwaitsOk || !mustPass(s, Side::Player) || s.tutorial.running;
+  if (game.ending.over) return w_.timer.enabled ? "nothing is pending after the end" : nullptr;
+  const bool someoneGoesOn = w_.timer.enabled || w_.state.passAwaitsOk ||
+                             !mustPass(game, Side::Player) || w_.state.tutorial.running;
   if (!someoneGoesOn) return "a running game goes on";
-  if (!w_.form.enabled && !s.passAwaitsOk && !w_.statistics.form.visible) {
+  if (!w_.form.enabled && !w_.state.passAwaitsOk && !w_.statistics.form.visible) {
     return "a disabled window is given back";
   }
   const bool focused = w_.form.focus != nullptr && w_.form.focus->usable();
@@ -113,11 +118,13 @@ const char* TableWatch::aboutTurn() const {
 }
 
 void TableWatch::meet() {
-  const GameState& s = w_.state;
-  met_.games += s.gameOver && !before_.gameOver ? 1 : 0;
-  met_.choices += s.choiceOpen && !before_.choiceOpen ? 1 : 0;
-  met_.passes += s.passAwaitsOk && !before_.passAwaitsOk ? 1 : 0;
-  before_ = s;
+  const Game& game = w_.game;
+  met_.games += game.ending.over && !over_ ? 1 : 0;
+  met_.choices += w_.state.choiceOpen && !asked_ ? 1 : 0;
+  met_.passes += w_.state.passAwaitsOk && !passed_ ? 1 : 0;
+  over_ = game.ending.over;
+  asked_ = w_.state.choiceOpen;
+  passed_ = w_.state.passAwaitsOk;
   replyWasDue_ = w_.timer.enabled;
 }
 

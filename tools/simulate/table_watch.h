@@ -33,7 +33,7 @@ class TableWatch {
   int surplus_ = 0;                     ///< cards of the computer that its count has missed
   Met& met_;
   // As they stood after the event before.
-  GameState before_;
+  bool over_ = false, asked_ = false, passed_ = false;
   bool replyWasDue_ = false;
 };
 

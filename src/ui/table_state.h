@@ -1,0 +1,73 @@
+#pragma once
+
+#include <string>
+
+#include "game/game.h"
+#include "game/grid.h"
+
+/// What the player is asked, told and shown, as plain data. What the rules speak of is
+/// `game/game.h`.
+namespace mevracard {
+
+constexpr int noSelection = 15;  ///< `selectedCard`: none; never a slot of the player's
+
+/// What the status line last said.
+enum class Announcement {
+  None,
+  YourTurn,
+  ComputersTurn,
+  ChooseOne,
+  ComputerPasses,
+  YouPass,
+  ComputersTurnAgain,
+};
+
+/// The how-to-play tutorial.
+struct TutorialState {
+  bool running = false;
+  bool untilFirstCard = false;        ///< from its start to its first demonstrated card
+  bool computerWaitsForNext = false;  ///< the timer lets no move of the computer's through
+  bool nextIsComputers = false;       ///< NEXT lets the computer move, else it demonstrates a move
+};
+
+/// A way in pixels of 15 twips.
+struct PixelVector {
+  double x = 0, y = 0;
+};
+
+/// The demonstrated move: the pointer goes from `start` to `start + offset`, then the card is laid.
+struct Demonstration {
+  bool busy = false;  ///< a move is being shown
+  bool done = false;  ///< set by the opening, until a move is begun
+  int tick = 0;       ///< ticks of the pointer's way
+  PixelVector start, offset;
+};
+
+struct TableState {
+  // The move at hand.
+  int playCard = 0;          ///< slot of the card to lay, or under examination
+  bool cardWasLaid = false;  ///< the card last offered; after the opening: the computer is to move
+  int layPosition = 0;       ///< grid place of the card just laid; a deal keeps it
+  int layColumn = 0;
+  int selectedCard = 0;  ///< the player's selection, noSelection for none
+  int refusals = 0;      ///< cards that the player wanted to lay and could not
+
+  // What the player is asked and told.
+  bool takesCards = false;     ///< from a game's start to its end; a new table size gives it back
+  bool choiceOpen = false;     ///< the same-number choice waits for an answer
+  bool passAwaitsOk = false;   ///< the player's pass was announced and waits for its OK
+  bool sizePanelOpen = false;  ///< the size panel is on the table
+  Announcement announcement = Announcement::None;
+  std::string tipText = "0";  ///< the current situation tip, lines end with a carriage return
+
+  TutorialState tutorial;
+  Demonstration demo;
+
+  SavedLevels savedLevels;
+  bool newGameAsked = false;  ///< since the start; the first deal sizes the table
+  int screenHeight = 0;       ///< twips
+  int twipsPerPixel = 15;
+  int tableSize = designTableSize;  ///< in force
+};
+
+}  // namespace mevracard
