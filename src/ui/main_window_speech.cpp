@@ -15,11 +15,6 @@ bool replyIsDue(const MainWindow& w) {
   return w.timer.enabled && !tutorial.nextIsComputers && !tutorial.computerWaitsForNext;
 }
 
-/// What stands there would be said once more when the player comes back.
-void takeBackNews(Speech& speech) {
-  if (!speech.unsaid) speech.news.clear();
-}
-
 std::string figuresText(const Label& caption, const Label& count, const Label& percent) {
   return caption.caption + " " + count.caption + ", " + percent.caption;
 }
@@ -29,7 +24,6 @@ std::string figuresText(const Label& caption, const Label& count, const Label& p
 void MainWindow::speak() {
   const bool aside = about.form.visible || statistics.form.visible;
   const bool returns = std::exchange(heard.aside, aside) && !aside;
-  if (aside) takeBackNews(form.speech);
   speakOfTable();
   heard.news.note(game, state, std::exchange(playerActed, false));
   if (returns && !form.speech.unsaid) heard.news.oweAnswer();
@@ -42,7 +36,6 @@ void MainWindow::speakBeforeBox() {
   speakOfTable();
   heard.news.note(game, state, playerActed);
   heard.news.oweAnswer();
-  takeBackNews(form.speech);
 }
 
 void MainWindow::speakOfTable() {
