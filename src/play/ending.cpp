@@ -10,8 +10,6 @@ namespace mevracard {
 
 namespace {
 
-constexpr int replyDelay = 1000;
-
 /// A lost game is counted here, whoever has decided it.
 /// QUIRK-43: and so is a demonstration that is played to its end. One would expect the
 /// statistics to hold the player's own games alone; the player finds one more there. Meant.

@@ -4,6 +4,8 @@
 
 namespace mevracard {
 
+constexpr int replyDelay = 1000;  ///< milliseconds until the computer replies
+
 /// After a card of the player: ends the game if it was the last one, else hands the turn to the
 /// computer, whose reply comes after 1000 ms.
 void afterPlayersCard(MainWindow& w);

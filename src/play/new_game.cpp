@@ -3,6 +3,7 @@
 #include "game/deal.h"
 #include "game/rules.h"
 #include "play/choice.h"
+#include "play/ending.h"
 #include "play/opening.h"
 #include "play/passing.h"
 #include "play/placement.h"
@@ -15,8 +16,6 @@
 namespace mevracard {
 
 namespace {
-
-constexpr int replyDelay = 1000;
 
 /// Nothing that the game before had under way may reach the new one.
 void dropGameBefore(MainWindow& w) {

@@ -11,7 +11,7 @@ namespace {
 /// QUIRK-41: before the first demonstrated move, the tick after a pass finds it done. One would
 /// expect the line to name the computer; the player reads "Your Turn", and NEXT lets the computer
 /// move. Meant.
-void giveTurnToPlayer(MainWindow& w) {
+void takeDemonstrationForOver(MainWindow& w) {
   announce(w, Announcement::YourTurn);
   raiseStatus(w);
   w.state.tutorial.computerWaitsForNext = false;
@@ -25,7 +25,7 @@ void tick(MainWindow& w) {
   if (!w.form.enabled) return;
   if (s.tutorial.nextIsComputers) {
     if (s.demo.done) {
-      giveTurnToPlayer(w);
+      takeDemonstrationForOver(w);
     } else {
       demonstrate(w);
     }

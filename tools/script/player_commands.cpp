@@ -59,7 +59,7 @@ void close(const Call& call) {
   report(call.session().desktop.close(call.session().names().window(call.words[0])));
 }
 
-constexpr std::array<Command, 9> table{{
+constexpr std::array<Command, 9> playerTable{{
     {"start", "start", 0, 0, false, start},
     {"menu", "menu NAME", 1, 1, true, menu},
     {"click", "click NAME", 1, 1, true, click},
@@ -73,6 +73,6 @@ constexpr std::array<Command, 9> table{{
 
 }  // namespace
 
-std::span<const Command> playerCommands() { return table; }
+std::span<const Command> playerCommands() { return playerTable; }
 
 }  // namespace mevracard::script

@@ -95,7 +95,7 @@ void callProcedure(const Call& call) {
   w.present();
 }
 
-constexpr std::array<Command, 3> table{{
+constexpr std::array<Command, 3> stateTable{{
     {"show", "show NAME ...", 1, anyNumber, true, show},
     {"set", "set FIELD VALUE", 2, anyNumber, true, set},
     {"call", "call NAME", 1, 3, true, callProcedure},
@@ -103,6 +103,6 @@ constexpr std::array<Command, 3> table{{
 
 }  // namespace
 
-std::span<const Command> stateCommands() { return table; }
+std::span<const Command> stateCommands() { return stateTable; }
 
 }  // namespace mevracard::script

@@ -92,7 +92,7 @@ void reset(const Call& call) { call.slot = std::make_unique<Session>(); }
 
 void echo(const Call& call) { print(call.text); }
 
-constexpr std::array<Command, 13> table{{
+constexpr std::array<Command, 13> worldTable{{
     {"screen", "screen HEIGHT TPP", 2, 2, false, screen},
     {"date", "date TEXT", 1, anyNumber, false, date},
     {"time", "time MINUTE SECOND", 2, 2, false, time},
@@ -110,6 +110,6 @@ constexpr std::array<Command, 13> table{{
 
 }  // namespace
 
-std::span<const Command> worldCommands() { return table; }
+std::span<const Command> worldCommands() { return worldTable; }
 
 }  // namespace mevracard::script

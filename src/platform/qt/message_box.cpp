@@ -20,7 +20,7 @@ namespace {
 
 // All in pixels, on a screen on which nothing grows.
 constexpr int usualWidth = 480;  // of a text that breaks
-constexpr int smallestType = 8;
+constexpr int smallestBoxType = 8;
 constexpr int margin = 12;
 constexpr QSize buttonSize(65, 33);
 constexpr int signSize = 32;
@@ -41,7 +41,7 @@ class Text final : public QLabel {
   void fit(int usual, QSize room) {
     QFont type = font();
     setMeasures(type, std::min(usual, room.width()));
-    for (int size = type.pixelSize(); height() > room.height() && size >= smallestType; --size) {
+    for (int size = type.pixelSize(); height() > room.height() && size >= smallestBoxType; --size) {
       type.setPixelSize(size);
       setMeasures(type, room.width());
     }
