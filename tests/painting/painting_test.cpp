@@ -1,8 +1,6 @@
 // What the real windows paint, without a display; the ratio of dots to pixels comes from outside.
-#include <QAnimationDriver>
 #include <QCoreApplication>
 #include <QKeyEvent>
-#include <algorithm>
 #include <set>
 
 #include <gtest/gtest.h>
@@ -76,9 +74,9 @@ std::set<std::string> allThatShows(const MainWindow& w) {
 /// A card with two numbers makes them both the open ones.
 void openSomeChoice(MainWindow& w) {
   for (const int slot : handOf(Side::Player)) {
-    const Card& card = w.state.card(slot);
+    const Card& card = w.game.card(slot);
     if (!card.held || card.isDouble()) continue;
-    w.state.openNumber = {{card.upper, card.lower}};
+    w.game.chain.openNumber = {{card.upper, card.lower}};
     return openChoice(w, slot);
   }
 }
@@ -128,55 +126,6 @@ TEST(Painting, ShowsEverythingWhereItStands) {
     numbers.insert(caption);
   }
   EXPECT_EQ(numbers, (std::set<std::string>{"0", "1", "2", "3", "4", "5", "6"}));
-}
-
-/// Time goes on for what moves only when the test says so.
-class Clock final : public QAnimationDriver {
- public:
-  Clock() { install(); }
-  ~Clock() override { uninstall(); }
-  [[nodiscard]] qint64 elapsed() const override { return now_; }
-  void goOn(int milliseconds) {
-    QCoreApplication::processEvents();
-    now_ += milliseconds;
-    advance();
-  }
-
- private:
-  qint64 now_ = 0;
-};
-
-// A card that is laid must be seen on its way: first where it was, then between, then in its place.
-TEST(Painting, ShowsACardOnItsWay) {
-  Table table;
-  MainWindow& w = table.w;
-  (void)table.shown(w.form);
-  const auto hand = handOf(Side::Player);
-  const auto slot = std::find_if(hand.begin(), hand.end(), [&](int s) { return fits(w.state, s); });
-  ASSERT_NE(slot, hand.end());
-  const Frame& card = w.card(*slot).frame;
-  const auto at = [&] {
-    const Picture& picture = table.windowOf(w.form).canvas().picture();
-    const auto item = std::find_if(picture.begin(), picture.end(),
-                                   [&](const Item& i) { return i.control == &card; });
-    return item->place;
-  };
-  const Dots inHand = at();
-  Clock clock;
-  table.doubleClick(w.card(*slot).frame);
-  clock.goOn(0);
-  EXPECT_EQ(at(), inHand);
-  clock.goOn(40);
-  const Dots onItsWay = at();
-  clock.goOn(40);
-  const Dots further = at();
-  clock.goOn(1000);
-  const Dots laid = at();
-  (void)table.shown(w.form);
-  EXPECT_EQ(laid, at());
-  EXPECT_LT(laid.top, further.top);
-  EXPECT_LT(further.top, onItsWay.top);
-  EXPECT_LT(onItsWay.top, inHand.top);
 }
 
 void type(QWidget& window, Qt::KeyboardModifiers with) {
