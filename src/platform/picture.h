@@ -62,7 +62,7 @@ struct Views {
 /// Whether the player presses, types or scrolls there, so that it is more than painted.
 [[nodiscard]] bool isWidget(const Control& control);
 
-/// `seenAt` tells where a frame is to be seen, which may be on its way to where it belongs.
+/// `seenAt` tells where a frame shows, which may be on its way to where it belongs.
 [[nodiscard]] Picture pictureOf(const Form& form, const Views& views,
                                 const std::function<Position(const Frame&)>& seenAt);
 

@@ -29,7 +29,7 @@ struct View {
   [[nodiscard]] double y(double twips) const;
   /// A length that is given in pixels of the design, such as the width of a border.
   [[nodiscard]] double length(double pixels) const;
-  /// A border that is to be seen is at least one dot wide.
+  /// A border that shows is at least one dot wide.
   [[nodiscard]] int border(double pixels) const;
   /// Boxes of one size, such as cards, keep one size wherever they stand.
   [[nodiscard]] Dots box(const Box& box) const { return this->box(box, box.left, box.top); }

@@ -1,5 +1,6 @@
 # clang-tidy over the code of the game and its tools. Each room is one unit, because most of the time
-# goes into the library's headers, which are then read once a room instead of once a file.
+# goes into the library's headers, which are then read once a room instead of once a file. So the
+# files of a room may not give one name to two things.
 find_program(CLANG_TIDY clang-tidy REQUIRED)
 file(GLOB_RECURSE headers CONFIGURE_DEPENDS src/*.h tools/*.h)
 

@@ -18,7 +18,7 @@ struct World {
   ClockTime time{3, 4};
   std::deque<double> draws;  ///< the next random numbers, before the seeded ones; in [0, 1)
   std::map<std::string, std::string, std::less<>> files;
-  bool speaks = false;  ///< somebody listens: news are told, lists can be asked for
+  bool speaks = false;  ///< somebody listens: news is told, lists can be asked for
   std::set<std::string, std::less<>> unreadable, unwritable;  ///< names of files, present or not
 };
 

@@ -83,7 +83,7 @@ class SpokenCanvas final : public QAccessibleWidget {
 
 /// A part of the canvas that is no widget: one of two places for the news, a list, or an item. It
 /// is there as long as the canvas. A screen reader says what the accessible focus comes to, and
-/// nothing that changes where it is: so the news go from one place to the other, while the keyboard
+/// nothing that changes where it is: so the news goes from one place to the other, while the keyboard
 /// stays.
 class Part final : public QAccessibleInterface, public QAccessibleActionInterface {
  public:

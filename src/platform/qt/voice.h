@@ -8,7 +8,7 @@
 namespace mevracard {
 
 /// Hands a window's speech on to assistive technology. What is asked for stands in the accessible
-/// tree below the canvas; the news are said at once, and again when the keyboard comes back.
+/// tree below the canvas; the news is said at once, and again when the keyboard comes back.
 class Voice {
  public:
   /// `listener` has the keyboard, or is about to get it.
@@ -17,7 +17,7 @@ class Voice {
  private:
   Speech told_;
   QPointer<QWidget> listener_;
-  QString ownName_;  ///< of the listener, when no news are in its name
+  QString ownName_;  ///< of the listener, when no news is in its name
 };
 
 /// From now on every canvas has the accessible tree of its window's speech.

@@ -11,7 +11,7 @@
 namespace mevracard {
 
 /// The controls of a window at which the player presses, types or scrolls: widgets of the toolkit,
-/// children of the canvas. They are made when they are first to be seen.
+/// children of the canvas. They are made when they first show.
 class Widgets final : public QObject {
  public:
   Widgets(const Form& form, ControlEvents& events, QWidget& canvas);
