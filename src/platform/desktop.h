@@ -25,7 +25,7 @@ struct ClockTime {
   int minute = 0, second = 0;
 };
 
-/// A point of the screen in pixels.
+/// A point of the screen, or a way on it, in pixels.
 struct ScreenPoint {
   double x = 0, y = 0;
 };

@@ -129,11 +129,11 @@ void demonstrate(MainWindow& w) {
   }
 }
 
-std::optional<PixelVector> placeOnScreen(const MainWindow& w, const Box& control) {
+std::optional<ScreenPoint> placeOnScreen(const MainWindow& w, const Box& control) {
   const auto pixel = w.desktop.centreOnScreen(control);
   if (!pixel) return std::nullopt;
   const double factor = w.state.twipsPerPixel / 15.0;
-  return PixelVector{pixel->x * factor, pixel->y * factor};
+  return ScreenPoint{pixel->x * factor, pixel->y * factor};
 }
 
 }  // namespace mevracard

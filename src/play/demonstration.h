@@ -12,6 +12,6 @@ void aimPointer(MainWindow& w);
 void demonstrate(MainWindow& w);
 
 /// A place of the real screen in pixels of 15 twips; none where the screen cannot be asked.
-[[nodiscard]] std::optional<PixelVector> placeOnScreen(const MainWindow& w, const Box& control);
+[[nodiscard]] std::optional<ScreenPoint> placeOnScreen(const MainWindow& w, const Box& control);
 
 }  // namespace mevracard

@@ -13,8 +13,8 @@ namespace mevracard {
 namespace {
 
 constexpr int replayDelay = 2000;
-constexpr int popupTop = 1000;
-constexpr int popupGap = 30;
+constexpr int tipsTop = 1000;
+constexpr int tipsGap = 30;
 
 /// QUIRK-12: card 13 is selected without being marked. One would expect no selection; Enter or
 /// Space lays card 13 if it is held and fits, and 'p' goes on from there. Meant.
@@ -34,12 +34,12 @@ bool turnWasPlain(const MainWindow& w) {
 
 /// Right of the card at the Right/Top end, which stays in view; where the screen has no room there,
 /// clear of the chain.
-void placePopup(MainWindow& w) {
+void placeTips(MainWindow& w) {
   const Frame& endCard = w.card(w.game.chain.endCard[End::RightTop].value_or(0)).frame;
   w.keepAboutClear();
   w.about.form.placed = true;
-  w.about.form.left = endCard.left + endCard.width + popupGap;
-  w.about.form.top = popupTop;
+  w.about.form.left = endCard.left + endCard.width + tipsGap;
+  w.about.form.top = tipsTop;
 }
 
 }  // namespace
@@ -65,7 +65,7 @@ void announcePlayersPass(MainWindow& w) {
   s.tipText += playerPassTip(w.game.chain.openNumber[End::RightTop],
                              w.game.chain.openNumber[End::LeftBottom]);
   s.passAwaitsOk = true;
-  placePopup(w);
+  placeTips(w);
   showTips(w);
   w.about.ok.visible = true;
   w.about.form.giveFocus(w.about.ok);

@@ -10,7 +10,7 @@ void announceComputersPass(MainWindow& w);
 /// The player cannot move but the computer can: opens the tips with the pass tip and an OK button
 /// and disables the main window until it is pressed.
 void announcePlayersPass(MainWindow& w);
-/// OK of the tips window after a pass of the player: the computer moves again after 2000 ms.
+/// OK of the tips after a pass of the player: the computer moves again after 2000 ms.
 void acknowledgePass(MainWindow& w);
 
 /// Closes every turn of the computer: ends the game if it has no card left, else refreshes the tip.

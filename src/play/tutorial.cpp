@@ -17,7 +17,7 @@ namespace mevracard {
 namespace {
 
 /// Place of NEXT on a maximized window, in pixels of 15 twips, where the screen cannot be asked.
-constexpr PixelVector nextButton{112, 230};
+constexpr ScreenPoint nextButton{112, 230};
 
 void chooseCardToShow(MainWindow& w) {
   TableState& s = w.state;

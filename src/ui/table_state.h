@@ -4,6 +4,7 @@
 
 #include "game/game.h"
 #include "game/grid.h"
+#include "platform/desktop.h"
 
 /// What the player is asked, told and shown, as plain data. What the rules speak of is
 /// `game/game.h`.
@@ -30,17 +31,13 @@ struct TutorialState {
   bool nextIsComputers = false;       ///< NEXT lets the computer move, else it demonstrates a move
 };
 
-/// A way in pixels of 15 twips.
-struct PixelVector {
-  double x = 0, y = 0;
-};
-
 /// The demonstrated move: the pointer goes from `start` to `start + offset`, then the card is laid.
+/// Both count in pixels of 15 twips.
 struct Demonstration {
   bool busy = false;  ///< a move is being shown
   bool done = false;  ///< set by the opening, until a move is begun
   int tick = 0;       ///< ticks of the pointer's way
-  PixelVector start, offset;
+  ScreenPoint start, offset;
 };
 
 struct TableState {

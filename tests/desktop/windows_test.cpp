@@ -158,7 +158,7 @@ void beginAnew() {
   QApplication::exec();
 }
 
-// The end of the session or of the system finds a box, a popup or a menu open: the game is lost
+// The end of the session or of the system finds a box, the tips or a menu open: the game is lost
 // once, nothing is asked, and the program ends.
 TEST(SystemEnd, CountsARunningGameOnceWhateverIsOpen) {
   const std::initializer_list<std::initializer_list<const char*>> ways{
