@@ -118,6 +118,7 @@ TEST(Windows, LookAsDesigned) {
   const auto look = designedLook();
   std::ofstream now("look.csv");
   for (const std::string& line : look) now << line << '\n';
+  now.close();
   for (std::size_t i = 0; i < std::max(recorded.size(), look.size()); ++i) {
     EXPECT_EQ(i < look.size() ? look[i] : "", i < recorded.size() ? recorded[i] : "")
         << "if this is meant: cp " << std::filesystem::absolute("look.csv") << " " MEVRACARD_LOOK;
