@@ -21,8 +21,8 @@ TEST(Glide, EndsInPlaceAndEatsNoKey) {
   screen.doubleClick(frame);
   ASSERT_TRUE(screen.waitFor([&] { return !w.game.card(*fitting).held; }));
   screen.key("p");  // in mid-glide
-  ASSERT_TRUE(screen.waitFor([&] { return w.state.selectedCard != noSelection; }, 500));
-  Screen::wait(300);
+  ASSERT_TRUE(screen.waitFor([&] { return w.state.selectedCard != noSelection; }));
+  ASSERT_TRUE(screen.waitFor([&] { return screen.isAtRest(); }));
   // As far from another control as the design says: the window has room for the table's own size.
   const Box& box = w.table.boxes[1];
   const QPoint way =

@@ -1,10 +1,24 @@
 #include "screen.h"
 
 #include <QApplication>
+#include <QScreen>
+#include <algorithm>
 
 #include <QtTest/QTest>
 
 namespace mevracard {
+
+namespace {
+
+/// What the X test tool prints.
+QByteArray answer(const QStringList& arguments) {
+  QProcess process;
+  process.start("xdotool", arguments);
+  process.waitForFinished();
+  return process.readAllStandardOutput();
+}
+
+}  // namespace
 
 Screen::Screen(int seed, const std::string& settings) : WindowGame(seed, settings) {}
 
@@ -44,6 +58,33 @@ QRect Screen::place(const Box& control) const {
   throw std::runtime_error("not on the screen: " + control.fullName());
 }
 
+bool Screen::hasKeyboard(const Form& form) const {
+  const auto& windows = desktop().windows();
+  return std::any_of(windows.begin(), windows.end(), [&](const auto& window) {
+    return &window->form() == &form && window->isActiveWindow() &&
+           answer({"getwindowfocus"}).trimmed().toULongLong() == window->winId();
+  });
+}
+
+bool Screen::isAtRest() {
+  const auto& cards = window().cards;
+  return std::all_of(cards.begin(), cards.end(), [this](const CardControls& card) {
+    const auto seen = painted(card.frame);
+    return !seen || (seen->center() - place(card.frame).center()).manhattanLength() <= 2;
+  });
+}
+
+void Screen::start() {
+  WindowGame::start();
+  constexpr int frame = 16;  // pixels
+  const auto stands = [this] {
+    const int wanted = mainWidget().screen()->availableGeometry().width() - frame;
+    return hasKeyboard(window().form) && mainWidget().width() >= wanted;
+  };
+  // Of a box that is closed at once the window manager may give the keyboard to nobody.
+  if (!QTest::qWaitFor(stands, 10'000)) mainWidget().activateWindow();
+}
+
 void Screen::tool(const QStringList& arguments) { QProcess::execute("xdotool", arguments); }
 
 void Screen::click(const Box& control) {
@@ -59,16 +100,23 @@ void Screen::doubleClick(const Box& control) {
 
 void Screen::key(const std::string& name) { tool({"key", QString::fromStdString(name)}); }
 
-bool Screen::waitFor(const std::function<bool()>& condition, int patience) {
+bool Screen::keyUntil(const std::string& name, const std::function<bool()>& condition) {
+  for (int presses = 0; presses < 6; ++presses) {
+    key(name);
+    if (QTest::qWaitFor(condition, 10'000)) return true;
+    mainWidget().activateWindow();
+  }
+  return false;
+}
+
+bool Screen::waitFor(const std::function<bool()>& condition) {
+  constexpr int patience = 60'000;  // ms, for a machine that has other things to do
   return QTest::qWaitFor(condition, patience);
 }
 
 QPoint Screen::pointer() {
-  QProcess process;
-  process.start("xdotool", {"getmouselocation", "--shell"});
-  process.waitForFinished();
   QPoint at;
-  for (const QByteArray& line : process.readAllStandardOutput().split('\n')) {
+  for (const QByteArray& line : answer({"getmouselocation", "--shell"}).split('\n')) {
     if (line.startsWith("X=")) at.setX(line.mid(2).toInt());
     if (line.startsWith("Y=")) at.setY(line.mid(2).toInt());
   }

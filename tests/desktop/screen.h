@@ -23,15 +23,24 @@ class Screen final : public WindowGame {
   /// Where a control stands on the screen.
   [[nodiscard]] QRect place(const Box& control) const;
   [[nodiscard]] QWidget& mainWidget() const;
+  /// Whether the X server sends its keys to this window.
+  [[nodiscard]] bool hasKeyboard(const Form& form) const;
+  /// Whether every card is painted where it belongs.
+  [[nodiscard]] bool isAtRest();
 
+  /// Until the main window stands and has the keyboard.
+  void start();
   void click(const Box& control);
   void doubleClick(const Box& control);
   /// A key by its X name ("p", "Return", "alt+f").
   void key(const std::string& name);
   /// Any command of the X test tool, without waiting for what it brings about.
   void tool(const QStringList& arguments);
-  /// Lets the program run until this holds; false after `patience` ms.
-  bool waitFor(const std::function<bool()>& condition, int patience = 5000);
+  /// Presses the key until this holds: the window manager may still be taking the keyboard about,
+  /// and a key is lost then, or have given it to nobody.
+  bool keyUntil(const std::string& name, const std::function<bool()>& condition);
+  /// Lets the program run until this holds; false if it never seems to.
+  bool waitFor(const std::function<bool()>& condition);
   /// The text of the X server's answer where the pointer is.
   [[nodiscard]] static QPoint pointer();
 };

@@ -11,9 +11,7 @@ namespace {
 
 void startTutorial(Screen& screen) {
   screen.start();
-  screen.key("alt+p");
-  ASSERT_TRUE(screen.waitFor([&] { return screen.messages.size() == 2; }));
-  Screen::wait(200);
+  ASSERT_TRUE(screen.keyUntil("alt+p", [&] { return screen.messages.size() >= 2; }));
   Screen::shoot("tutorial-start");
 }
 
@@ -39,12 +37,11 @@ TEST(Demonstration, EndsOnTheMarkedNumber) {
     game.chain.openNumber = {};
     screen.click(w.tutorial.next);
     ASSERT_TRUE(screen.waitFor([&] { return s.demo.busy; }));
-    Screen::wait(50);
     const Label& marked = w.card(c.column).lower;
     const QRect target = screen.place(marked);
     EXPECT_EQ(marked.backColor, (Color{255, 0, 0}));
     if (c.column == 6) Screen::shoot("demonstration");
-    ASSERT_TRUE(screen.waitFor([&] { return !s.demo.busy; }, 15000));
+    ASSERT_TRUE(screen.waitFor([&] { return !s.demo.busy; }));
     const QPoint pointer = Screen::pointer();
     EXPECT_TRUE(target.contains(pointer)) << pointer.x() << ", " << pointer.y();
   }

@@ -16,14 +16,22 @@
 namespace mevracard {
 namespace {
 
-void chooseFromMenu(Screen& screen, std::initializer_list<const char*> keys) {
+using Keys = std::vector<const char*>;
+
+/// Each key but the last one opens the menu that the next one goes to.
+void chooseFromMenu(Screen& screen, const Keys& keys) {
   // A window that has just been closed gives the keyboard back in its own time.
-  Screen::wait(100);
-  ASSERT_TRUE(screen.waitFor([] { return QApplication::activeWindow() != nullptr; }));
-  for (const char* key : keys) {
-    screen.key(key);
-    Screen::wait(120);
+  ASSERT_TRUE(screen.waitFor([&] { return screen.hasKeyboard(screen.window().form); }));
+  for (const char* const& key : keys) {
+    if (&key == &keys.back()) return screen.key(key);
+    const QWidget* before = QApplication::activePopupWidget();
+    ASSERT_TRUE(screen.keyUntil(key, [&] { return QApplication::activePopupWidget() != before; }));
   }
+}
+
+void openMenu(Screen& screen, const char* key) {
+  ASSERT_TRUE(screen.waitFor([&] { return screen.hasKeyboard(screen.window().form); }));
+  ASSERT_TRUE(screen.keyUntil(key, [] { return QApplication::activePopupWidget() != nullptr; }));
 }
 
 // Access keys and check marks; a level deals anew without the abort message.
@@ -36,15 +44,15 @@ TEST(Menus, AnswerAccessKeys) {
       screen.waitFor([&] { return w.menu.computerLevel2.checked && screen.messages.size() == 2; }));
   EXPECT_FALSE(w.menu.computerLevel1.checked);
   chooseFromMenu(screen, {"alt+f", "s"});
-  ASSERT_TRUE(screen.waitFor([&] { return w.statistics.form.visible; }));
+  ASSERT_TRUE(screen.waitFor([&] { return screen.hasKeyboard(w.statistics.form); }));
   Screen::shoot("statistics");
   EXPECT_FALSE(w.form.enabled);
   screen.key("Return");
   ASSERT_TRUE(screen.waitFor([&] { return w.form.enabled; }));
   chooseFromMenu(screen, {"alt+h", "a"});
-  ASSERT_TRUE(screen.waitFor([&] { return w.about.form.visible; }));
+  ASSERT_TRUE(screen.waitFor([&] { return screen.hasKeyboard(w.about.form); }));
   Screen::shoot("about");
-  chooseFromMenu(screen, {"alt+F4"});
+  screen.key("alt+F4");
   ASSERT_TRUE(screen.waitFor([&] { return !w.about.form.visible; }));
   chooseFromMenu(screen, {"alt+f", "n"});
   ASSERT_TRUE(screen.waitFor([&] { return screen.messages.size() == 4; }));
@@ -57,21 +65,25 @@ TEST(Keys, LeaveWindowsAndSizeTheTable) {
   screen.start();
   MainWindow& w = screen.window();
   ASSERT_TRUE(screen.waitFor([&] { return !w.timer.enabled; }));
-  const auto leave = [&](std::initializer_list<const char*> way, const bool& open) {
+  const auto leave = [&](const Keys& way, const bool& open, const Form& form) {
     chooseFromMenu(screen, way);
-    ASSERT_TRUE(screen.waitFor([&] { return open; }));
+    ASSERT_TRUE(screen.waitFor([&] { return open && screen.hasKeyboard(form); }));
     screen.key("Escape");
     EXPECT_TRUE(screen.waitFor([&] { return !open; }));
   };
-  leave({"alt+h", "a"}, w.about.form.visible);
-  leave({"alt+h", "t"}, w.about.form.visible);
-  leave({"alt+f", "s"}, w.statistics.form.visible);
+  leave({"alt+h", "a"}, w.about.form.visible, w.about.form);
+  leave({"alt+h", "t"}, w.about.form.visible, w.about.form);
+  leave({"alt+f", "s"}, w.statistics.form.visible, w.statistics.form);
   EXPECT_TRUE(w.form.enabled);
-  leave({"alt+o"}, w.state.sizePanelOpen);
+  leave({"alt+o"}, w.state.sizePanelOpen, w.form);
   chooseFromMenu(screen, {"alt+o"});
+  ASSERT_TRUE(screen.waitFor([&] { return w.state.sizePanelOpen; }));
+  const int before = w.sizePanel.bar.value;
   screen.click(w.sizePanel.bar);
-  ASSERT_TRUE(screen.waitFor([&] { return w.form.focus == &w.sizePanel.bar; }));
-  Screen::wait(200);  // the click has moved it too
+  ASSERT_TRUE(screen.waitFor([&] {
+    return w.form.focus == &w.sizePanel.bar && w.sizePanel.bar.value != before &&
+           QApplication::mouseButtons() == Qt::NoButton;
+  }));
   const int clicked = w.sizePanel.bar.value;
   screen.key("Left");
   EXPECT_TRUE(screen.waitFor([&] { return w.sizePanel.bar.value == clicked - 1; }));
@@ -99,8 +111,9 @@ TEST(SmallWindow, ShowsTheWholeTableAndTheStatusInFront) {
   QWidget& window = screen.mainWidget();
   window.showNormal();
   window.resize(window.minimumSize());
-  Screen::wait(300);
+  ASSERT_TRUE(screen.waitFor([&] { return window.size() == window.minimumSize(); }));
   chooseFromMenu(screen, {"alt+o"});
+  ASSERT_TRUE(screen.waitFor([&] { return w.state.sizePanelOpen; }));
   EXPECT_TRUE(isBefore(screen, w.status, w.sizePanel.ground));
   Screen::shoot("small-window");
   for (const Box* box : std::initializer_list<Box*>{&w.card(0).frame, &w.card(13).frame,
@@ -117,7 +130,7 @@ TEST(Tips, FitTheirWindow) {
   MainWindow& w = screen.window();
   screen.state().tipText = tipHeading() + sameNumberTip(3, 5);
   chooseFromMenu(screen, {"alt+h", "t"});
-  ASSERT_TRUE(screen.waitFor([&] { return w.about.form.visible; }));
+  ASSERT_TRUE(screen.waitFor([&] { return screen.hasKeyboard(w.about.form); }));
   Screen::shoot("tips");
   for (const auto* bar : screen.widget(w.about.tip).findChildren<QScrollBar*>()) {
     EXPECT_FALSE(bar->isVisible());
@@ -131,17 +144,16 @@ TEST(Menus, GiveWayToWindowsAndBoxes) {
   screen.start();
   MainWindow& w = screen.window();
   ASSERT_TRUE(screen.waitFor([&] { return !w.timer.enabled; }));
-  chooseFromMenu(screen, {"alt+f"});
-  ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+  openMenu(screen, "alt+f");
   announcePlayersPass(w);
   w.present();
   EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
-  ASSERT_TRUE(screen.waitFor([&] { return screen.widget(w.about.ok).hasFocus(); }));
+  ASSERT_TRUE(screen.waitFor(
+      [&] { return screen.hasKeyboard(w.about.form) && screen.widget(w.about.ok).hasFocus(); }));
   screen.key("Return");
   ASSERT_TRUE(screen.waitFor([&] { return !w.about.form.visible; }));
-  chooseFromMenu(screen, {"alt+h"});
-  ASSERT_NE(QApplication::activePopupWidget(), nullptr);
-  ASSERT_TRUE(screen.waitFor([&] { return screen.messages.size() == 1; }));
+  openMenu(screen, "alt+h");
+  ASSERT_EQ(screen.messages.size(), 1U);
   w.say("over a menu");
   EXPECT_EQ(screen.messages.back(), "over a menu");
 }
@@ -161,18 +173,31 @@ void beginAnew() {
 // The end of the session or of the system finds a box, the tips or a menu open: the game is lost
 // once, nothing is asked, and the program ends.
 TEST(SystemEnd, CountsARunningGameOnceWhateverIsOpen) {
-  const std::initializer_list<std::initializer_list<const char*>> ways{
-      {}, {"alt+f"}, {"alt+f", "s"}, {"alt+f", "n"}, {"alt+F4"}};
+  struct Way {
+    Keys keys;
+    std::function<bool(Screen&)> isOpen;
+  };
+  const auto box = [](Screen&) { return QApplication::activeModalWidget() != nullptr; };
   bool bySignal = false;
-  for (const auto& keys : ways) {
+  for (const Way& way :
+       {Way{{}, [](Screen&) { return true; }},
+        Way{{"alt+f"}, [](Screen&) { return QApplication::activePopupWidget() != nullptr; }},
+        Way{{"alt+f", "s"}, [](Screen& s) { return s.window().statistics.form.visible; }},
+        Way{{"alt+f", "n"}, box}, Way{{"alt+F4"}, box}}) {
     Screen screen;
     screen.start();
     MainWindow& w = screen.window();
     ASSERT_TRUE(screen.waitFor([&] { return !w.timer.enabled; }));
     screen.answersBoxes = false;
     const std::string before = w.desktop.readFile(statisticsFile);
-    QTimer::singleShot(800, [&] { bySignal ? (void)std::raise(SIGHUP) : endSession(); });
-    chooseFromMenu(screen, keys);
+    chooseFromMenu(screen, way.keys);
+    QTimer end;  // a box keeps the test waiting
+    QObject::connect(&end, &QTimer::timeout, [&] {
+      if (!way.isOpen(screen)) return;
+      end.stop();
+      bySignal ? (void)std::raise(SIGHUP) : endSession();
+    });
+    end.start(10);
     ASSERT_TRUE(screen.waitFor([&] { return !screen.mainWidget().isVisible(); }));
     EXPECT_EQ(w.desktop.readFile(statisticsFile), withResult(before, GameResult::Lost));
     EXPECT_EQ(screen.messages.size(), 1U);
@@ -182,7 +207,7 @@ TEST(SystemEnd, CountsARunningGameOnceWhateverIsOpen) {
 }
 
 QImage pictureOfTable(Screen& screen) {
-  Screen::wait(800);  // no card glides any more
+  EXPECT_TRUE(screen.waitFor([&] { return screen.isAtRest(); }));
   return screen.mainWidget().grab().toImage();
 }
 

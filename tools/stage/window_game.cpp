@@ -49,7 +49,7 @@ void WindowGame::closeMessageBox() {
 
 void WindowGame::start() {
   program_.start();
-  (void)QTest::qWaitFor([] { return QApplication::activeWindow() != nullptr; }, 2000);
+  (void)QTest::qWaitFor([] { return QApplication::activeWindow() != nullptr; }, 20'000);
   wait(300);
 }
 
