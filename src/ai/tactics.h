@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <vector>
 
 #include "game/game.h"
 
@@ -20,8 +21,10 @@ using Targets = std::array<int, 2>;
 /// Those of which the player holds the fewest cards.
 [[nodiscard]] Targets rarestNumbers(const NumberCounts& playerCount);
 
-/// Sets `bannedNumber` to a number of which five non-double cards lie on the table and which the
-/// computer still holds, and makes it the best target.
-void findBannedNumber(Game& game, Targets& targets);
+/// The numbers of which five non-double cards lie on the table, each as often as the computer holds
+/// a card that bears it. The last one is banned.
+[[nodiscard]] std::vector<int> bannedNumbers(const Game& game);
+/// The targets after each of these numbers in turn was made the best one.
+[[nodiscard]] Targets withBanned(Targets targets, const std::vector<int>& banned);
 
 }  // namespace mevracard

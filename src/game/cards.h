@@ -54,6 +54,8 @@ struct Card {
   [[nodiscard]] bool bears(int number) const { return upper == number || lower == number; }
   [[nodiscard]] bool isDouble() const { return upper == lower; }
   [[nodiscard]] int sum() const { return upper + lower; }
+  /// Beside a number that the card bears.
+  [[nodiscard]] int otherThan(int number) const { return upper == number ? lower : upper; }
 };
 
 }  // namespace mevracard

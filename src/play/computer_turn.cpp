@@ -1,6 +1,7 @@
 #include "play/computer_turn.h"
 
-#include "ai/selection.h"
+#include "ai/computer_moves.h"
+#include "game/moves.h"
 #include "game/rules.h"
 #include "play/choice.h"
 #include "play/ending.h"
@@ -12,48 +13,30 @@ namespace mevracard {
 
 namespace {
 
-void lay(MainWindow& w, const Move& move) {
+void layForComputer(MainWindow& w, const Move& move) {
   const bool leftBottom = move.end == End::LeftBottom;
   if (leftBottom) w.game.aimsLeftBottom[Side::Computer] = true;
   w.card(move.card).uncover();
-  layCard(w, move.card);
+  layCard(w, move.card, Side::Computer);
   if (leftBottom) w.game.aimsLeftBottom[Side::Computer] = false;
 }
 
-/// Rule G, the whole of computer level 1.
-void layWhateverFits(MainWindow& w, Scan scan) {
-  TableState& s = w.state;
-  // QUIRK-09: the scan goes on after a card was laid, so one turn lays every card that fits when it
-  // is met, while "Rest of Card" drops by one. One would expect one card a turn and a true count;
-  // the player sees several cards appear at once. Meant.
-  for (const int card : scanned(Side::Computer, scan)) {
-    s.playCard = card;
-    if (w.game.card(card).held && fits(w.game, card)) lay(w, {card, std::nullopt});
-  }
-}
-
-void layByLevel(MainWindow& w) {
+void layComputersCards(MainWindow& w) {
   TableState& s = w.state;
   if (s.tutorial.running) {
     s.tutorial.nextIsComputers = false;
     announce(w, Announcement::YourTurn);
   }
-  --w.game.counts.cardsLeft[Side::Computer];
+  countComputersTurn(w.game);
   const Scan scan = scanFor(w.desktop.random());
-  if (w.game.levels.computer == 2) {
-    if (const auto move = chooseTactically(w.game, scan)) {
-      lay(w, *move);
-      return;
-    }
-  }
-  layWhateverFits(w, scan);
+  for (const Move& move : computersMoves(w.game, scan)) layForComputer(w, move);
+  s.playCard = w.game.mind.lookedAt;
 }
 
 /// QUIRK-11: a computer that cannot move either counts its pass before the deadlock, without the
 /// message that goes with a pass. Meant.
-void pass(MainWindow& w) {
-  w.game.mind.hasPassed = true;
-  ++w.game.counts.passes[Side::Computer];
+void passForComputer(MainWindow& w) {
+  pass(w.game, Side::Computer);
   if (mustPass(w.game, Side::Player)) {
     deadlock(w);
   } else {
@@ -78,10 +61,10 @@ void takeComputersTurn(MainWindow& w) {
   w.form.giveFocus(w.discard);
   w.game.mind.danger = noNumber;
   if (mustPass(w.game, Side::Computer)) {
-    pass(w);
+    passForComputer(w);
     return;
   }
-  layByLevel(w);
+  layComputersCards(w);
   lookWhetherPlayerCanAnswer(w);
   closeComputersTurn(w);
 }

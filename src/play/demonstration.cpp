@@ -69,7 +69,7 @@ void movePointer(MainWindow& w, double x, double y) {
 /// A hand without a fitting card is aimed at whatever slot came last, which may be empty.
 bool layDemonstratedCard(MainWindow& w) {
   TableState& s = w.state;
-  if (w.game.card(s.playCard).held) return layCard(w, s.playCard);
+  if (w.game.card(s.playCard).held) return layCard(w, s.playCard, Side::Player);
   w.timer.disarm();
   s.cardWasLaid = false;
   return false;
@@ -85,10 +85,7 @@ void endDemonstration(MainWindow& w) {
   announce(w, Announcement::ComputersTurn);
   const Card& card = w.game.card(s.playCard);
   s.tipText = demonstratedTip(card.upper, card.lower);
-  if (laid) {
-    --w.game.counts.cardsLeft[Side::Player];
-    afterPlayersCard(w);
-  }
+  if (laid) afterPlayersCard(w);
 }
 
 }  // namespace

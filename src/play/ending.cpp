@@ -1,5 +1,6 @@
 #include "play/ending.h"
 
+#include "game/moves.h"
 #include "game/scoring.h"
 #include "play/recording.h"
 #include "play/status.h"
@@ -13,16 +14,14 @@ namespace {
 /// A lost game is counted here, whoever has decided it.
 /// QUIRK-43: and so is a demonstration that is played to its end. One would expect the
 /// statistics to hold the player's own games alone; the player finds one more there. Meant.
-void decide(MainWindow& w, GameResult result) {
-  const bool won = result == GameResult::Won;
-  w.game.ending.result = result;
-  w.result.verdict.caption = won ? "You win" : "You lose";
+void record(MainWindow& w, GameResult result) {
+  w.result.verdict.caption = result == GameResult::Won ? "You win" : "You lose";
   recordResult(w, result);
 }
 
 void playerHasWon(MainWindow& w) {
   if (w.state.tutorial.running) endTutorial(w);
-  decide(w, GameResult::Won);
+  record(w, winBy(w.game, Side::Player));
   showSums(w);
   w.state.tipText = tipHeading() + playerWinsTip();
   showResult(w);
@@ -42,24 +41,20 @@ void afterPlayersCard(MainWindow& w) {
 }
 
 void computerHasWon(MainWindow& w) {
-  w.game.ending.deadlock = false;
   if (w.state.tutorial.running) endTutorial(w);
-  decide(w, GameResult::Lost);
+  record(w, winBy(w.game, Side::Computer));
   w.state.tipText = tipHeading() + computerWinsTip();
   showSums(w);
   showResult(w);
 }
 
 void deadlock(MainWindow& w) {
-  TableState& s = w.state;
-  if (s.tutorial.running) endTutorial(w);
-  w.game.ending.deadlock = true;
+  if (w.state.tutorial.running) endTutorial(w);
+  const GameResult result = decideDeadlock(w.game);
   w.result.verdict.visible = true;  // also while a message about the statistics stands before it
   showSums(w);
-  const bool won =
-      playerWinsDeadlock(leftover(w.game, Side::Player), leftover(w.game, Side::Computer));
-  decide(w, won ? GameResult::Won : GameResult::Lost);
-  s.tipText = tipHeading() + deadlockTip();
+  record(w, result);
+  w.state.tipText = tipHeading() + deadlockTip();
   showResult(w);
 }
 

@@ -1,6 +1,6 @@
 #include "play/opening.h"
 
-#include "game/chain.h"
+#include "game/moves.h"
 #include "play/placement.h"
 #include "play/status.h"
 #include "play/tips.h"
@@ -13,16 +13,8 @@ namespace {
 
 constexpr int firstStepDelay = 1000;  ///< of the tutorial
 
-std::optional<int> slotOfDoubleZero(const Game& game) {
-  for (const int slot : allSlots) {
-    if (game.card(slot).isDouble() && game.card(slot).bears(0)) return slot;
-  }
-  return std::nullopt;
-}
-
-void layDoubleZero(MainWindow& w, int slot) {
-  TableState& s = w.state;
-  s.playCard = slot;
+void showDoubleZero(MainWindow& w, int slot) {
+  w.state.playCard = slot;
   // QUIRK-04: it glides towards the place of the last card of the game before, and not at all when
   // the player's hand fits none of that game's last numbers. One would expect a glide to the
   // centre; the player sees the 0-0 jump there from elsewhere. Meant.
@@ -30,11 +22,9 @@ void layDoubleZero(MainWindow& w, int slot) {
   putAt(w.card(slot).frame, chainPlace(End::RightTop, openingPosition, 0), w.scale());
   w.card(slot).paintNumbers(handColour);
   w.card(slot).uncover();
-  openChain(w.game, slot);
 }
 
 void giveTurnToPlayer(MainWindow& w) {
-  w.game.counts.cardsLeft[Side::Computer] = handSize - 1;
   w.state.cardWasLaid = false;
   announce(w, Announcement::YourTurn);
   appendGeneralTip(w);
@@ -42,7 +32,6 @@ void giveTurnToPlayer(MainWindow& w) {
 }
 
 void giveTurnToComputer(MainWindow& w) {
-  w.game.counts.cardsLeft[Side::Player] = handSize - 1;
   w.state.cardWasLaid = true;
   announce(w, Announcement::ComputersTurn);
   w.state.tutorial.computerWaitsForNext = false;
@@ -57,10 +46,11 @@ void openWithDoubleZero(MainWindow& w) {
   TableState& s = w.state;
   s.demo.done = true;
   s.tipText = tipHeading() + openingTip();
-  const auto slot = slotOfDoubleZero(w.game);
-  if (slot) layDoubleZero(w, *slot);
+  const auto slot = doubleZero(w.game);
+  if (slot) showDoubleZero(w, *slot);
+  const Side next = openChain(w.game, slot);
   w.form.giveFocus(w.discard);
-  if (slot && ownerOf(*slot) == Side::Computer) {
+  if (next == Side::Player) {
     giveTurnToPlayer(w);
   } else {
     giveTurnToComputer(w);

@@ -1,5 +1,6 @@
 #include "play/passing.h"
 
+#include "game/moves.h"
 #include "game/rules.h"
 #include "play/ending.h"
 #include "play/status.h"
@@ -82,7 +83,7 @@ void acknowledgePass(MainWindow& w) {
   w.timer.arm(replayDelay);
   announce(w, Announcement::ComputersTurnAgain);
   s.tipText = tipHeading() + replayTip();
-  ++w.game.counts.passes[Side::Player];
+  pass(w.game, Side::Player);
   closeComputersTurn(w);
 }
 

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "game/chain.h"
+#include "game/moves.h"
 #include "game/rules.h"
 #include "play/choice.h"
 #include "ui/colors.h"
@@ -11,16 +11,14 @@ namespace mevracard {
 
 namespace {
 
-/// Puts the frame in its place and takes the marks off the card and the one that it joins.
-void layAt(MainWindow& w, int slot, End end) {
-  TableState& s = w.state;
+/// Takes the marks off the card and the one that it joins, and glides it to its place.
+void showPlacement(MainWindow& w, int slot, const Placement& placement) {
+  const auto& [end, laying, joined] = placement;
   CardControls& card = w.card(slot);
-  if (const auto joined = w.game.chain.endCard[end]) w.card(*joined).paintNumbers(handColour);
+  if (joined) w.card(*joined).paintNumbers(handColour);
   card.paintNumbers(handColour);
-  const Laying laying = joinChain(w.game, slot, end);
-  s.layPosition = laying.position;
-  s.layColumn = laying.column;
-  w.game.aimsLeftBottom[Side::Player] = false;
+  w.state.layPosition = laying.position;
+  w.state.layColumn = laying.column;
   if (laying.inFront) {
     w.form.bringToFront(card.frame);
   } else {
@@ -40,16 +38,15 @@ void putAt(Box& box, GridPoint at, double scale) {
   box.top = static_cast<float>(at.top * scale);
 }
 
-bool layCard(MainWindow& w, int card) {
-  TableState& s = w.state;
-  s.playCard = card;
+bool layCard(MainWindow& w, int card, Side by) {
+  w.state.playCard = card;
   w.timer.disarm();
-  const auto end = endFor(w.game, card);
-  s.cardWasLaid = end.has_value();
-  if (!end) return false;
+  const auto placement = lay(w.game, card, by);
+  w.state.cardWasLaid = placement.has_value();
+  if (!placement) return false;
   // Its buttons would otherwise lay a card that the player no longer has in mind.
   closeChoice(w);
-  layAt(w, card, *end);
+  showPlacement(w, card, *placement);
   return true;
 }
 

@@ -5,10 +5,9 @@
 
 namespace mevracard {
 
-/// Lays a card (a slot, 0 to 27) at the end that `endFor` names and says whether it was laid, which
-/// `cardWasLaid` keeps; if not, nothing else has changed. Disarms the timer. Counts, covers and the
-/// end of the game are the caller's.
-bool layCard(MainWindow& w, int card);
+/// Disarms the timer and lays a card (a slot, 0 to 27) for a side, as `lay` does, in sight. Says
+/// whether it fitted; if not, nothing else has changed.
+bool layCard(MainWindow& w, int card, Side by);
 
 /// Moves the frame of `playCard` step by step towards the grid place that `layPosition` and
 /// `layColumn` name.

@@ -57,8 +57,7 @@ void laySelectedCard(MainWindow& w) {
   if (!w.game.card(card).held) return;
   s.selectedCard = noSelection;
   const bool replyWasDue = w.timer.enabled;
-  if (layCard(w, card)) {
-    --w.game.counts.cardsLeft[Side::Player];
+  if (layCard(w, card, Side::Player)) {
     afterPlayersCard(w);
   } else {
     refuseCard(w, replyWasDue);

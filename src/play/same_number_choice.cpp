@@ -16,8 +16,9 @@ void layChosenCard(MainWindow& w, End end) {
   closeChoice(w);
   w.status.visible = false;
   if (end == End::LeftBottom) w.game.aimsLeftBottom[Side::Player] = true;
-  layCard(w, w.state.playCard);
-  --w.game.counts.cardsLeft[Side::Player];
+  const bool laid = layCard(w, w.state.playCard, Side::Player);
+  // Only a script can have changed the numbers meanwhile; the card is counted all the same.
+  if (!laid) --w.game.counts.cardsLeft[Side::Player];
   afterPlayersCard(w);
 }
 

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "ai/selection.h"
+#include "ai/computer_moves.h"
 #include "game/rules.h"
 #include "play/computer_turn.h"
 #include "play/demonstration.h"

@@ -184,7 +184,7 @@ TEST(Windows, ShowTheRightThingsBehindMessages) {
   // A card that is laid glides from its place in the hand.
   const Frame& frame = w.cards[0].frame;
   const Position inHand{frame.left, frame.top};
-  EXPECT_TRUE(layCard(w, 0));
+  EXPECT_TRUE(layCard(w, 0, Side::Player));
   ASSERT_EQ(w.form.glides.size(), 1U);
   EXPECT_EQ(w.form.glides[0].frame, &frame);
   EXPECT_EQ(w.form.glides[0].from, inHand);

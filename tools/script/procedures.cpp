@@ -29,7 +29,7 @@ struct Plain {
   void (*run)(MainWindow& w);
 };
 
-void layPlayCard(MainWindow& w) { layCard(w, w.state.playCard); }
+void layPlayCard(MainWindow& w) { layCard(w, w.state.playCard, Side::Computer); }
 void uncoverPlayCard(MainWindow& w) { w.card(w.state.playCard).uncover(); }
 
 /// Called by hand with cards left, which play never does, it hands the turn back to the player.

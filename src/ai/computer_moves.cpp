@@ -1,4 +1,4 @@
-#include "ai/selection.h"
+#include "ai/computer_moves.h"
 
 #include <algorithm>
 
@@ -11,7 +11,7 @@ namespace mevracard {
 namespace {
 
 /// A card under examination: x over y, against the active numbers, a target and the banned number.
-struct View {
+struct Candidate {
   int x, y;
   int first, second;
   int target, banned;
@@ -24,7 +24,7 @@ struct View {
   }
 };
 
-View viewOf(const Game& game, int card, int target = noNumber) {
+Candidate candidateOf(const Game& game, int card, int target = noNumber) {
   return {game.card(card).upper,
           game.card(card).lower,
           game.chain.openNumber[End::RightTop],
@@ -45,29 +45,29 @@ std::optional<Move> firstMove(Scan scan, Examine examine) {
 /// One row of rules A to C: the card it wants, whether a same number must lose or must not lose the
 /// count, the end.
 struct TargetRule {
-  bool (*applies)(const View& v);
+  bool (*applies)(const Candidate& v);
   bool sameNumberLoses;
   End end;
 };
 
 constexpr std::array<TargetRule, 6> targetRules{{
     // A1, A2: a double that fits one end, while the other shows the banned number.
-    {[](const View& v) { return v.isDouble() && v.x == v.first && v.banned == v.second; }, true,
-     End::RightTop},
-    {[](const View& v) { return v.isDouble() && v.x == v.second && v.banned == v.first; }, true,
-     End::LeftBottom},
+    {[](const Candidate& v) { return v.isDouble() && v.x == v.first && v.banned == v.second; },
+     true, End::RightTop},
+    {[](const Candidate& v) { return v.isDouble() && v.x == v.second && v.banned == v.first; },
+     true, End::LeftBottom},
     // B1, B2: the double of a target that fits an end.
-    {[](const View& v) { return v.isDouble() && v.target == v.x && v.x == v.first; }, true,
+    {[](const Candidate& v) { return v.isDouble() && v.target == v.x && v.x == v.first; }, true,
      End::RightTop},
-    {[](const View& v) { return v.isDouble() && v.target == v.x && v.x == v.second; }, true,
+    {[](const Candidate& v) { return v.isDouble() && v.target == v.x && v.x == v.second; }, true,
      End::LeftBottom},
     // C1, C2: another card that turns an end into a target.
-    {[](const View& v) {
+    {[](const Candidate& v) {
        return !v.isDouble() &&
               ((v.target == v.x && v.y == v.first) || (v.target == v.y && v.x == v.first));
      },
      false, End::RightTop},
-    {[](const View& v) {
+    {[](const Candidate& v) {
        return !v.isDouble() &&
               ((v.target == v.y && v.x == v.second) || (v.target == v.x && v.y == v.second));
      },
@@ -76,14 +76,15 @@ constexpr std::array<TargetRule, 6> targetRules{{
 
 /// Rules A to C: for both targets, each card in scan order.
 std::optional<Move> aimAtTargets(Game& game, Scan scan) {
-  Targets targets = rarestNumbers(playerCounts(game));
-  findBannedNumber(game, targets);
+  const auto banned = bannedNumbers(game);
+  game.mind.bannedNumber = banned.empty() ? noNumber : banned.back();
+  const Targets targets = withBanned(rarestNumbers(playerCounts(game)), banned);
   for (const int target : targets) {
     const auto move = firstMove(scan, [&](int card) -> std::optional<Move> {
       if (!game.card(card).held) return std::nullopt;
-      const View view = viewOf(game, card, target);
+      const Candidate candidate = candidateOf(game, card, target);
       for (const TargetRule& rule : targetRules) {
-        if (rule.applies(view) && rule.sameNumberLoses == sameNumberWouldLose(game)) {
+        if (rule.applies(candidate) && rule.sameNumberLoses == sameNumberWouldLose(game)) {
           return Move{card, rule.end};
         }
       }
@@ -135,7 +136,7 @@ void findSecondDanger(Game& game, const Card& examined) {
 /// Rule E for one card.
 std::optional<Move> coverDanger(Game& game, int card) {
   if (!game.card(card).held) return std::nullopt;
-  const View v = viewOf(game, card);
+  const Candidate v = candidateOf(game, card);
   if (v.isDouble()) {
     if (v.x == v.first) return Move{card, End::RightTop};
     if (v.x == v.second) return Move{card, End::LeftBottom};
@@ -175,13 +176,39 @@ std::optional<Move> openNoDanger(Game& game) {
     const auto move = firstMove(Scan::Upwards, [&](int card) -> std::optional<Move> {
       if (game.card(card).bears(n) && playerHoldsDouble(game, n)) game.mind.danger = n;
       const bool safe =
-          game.card(card).held && viewOf(game, card).coversWithoutOpening(game.mind.danger);
+          game.card(card).held && candidateOf(game, card).coversWithoutOpening(game.mind.danger);
       if (!safe || sameNumberWouldLose(game)) return std::nullopt;
       return Move{card, std::nullopt};
     });
     if (move) return move;
   }
   return std::nullopt;
+}
+
+std::optional<Move> chooseTactically(Game& game, Scan scan) {
+  if (const auto move = aimAtTargets(game, scan)) return move;
+  if (const auto move = leaveBannedNumber(game)) return move;
+  if (const auto move = layDoubleOrCoverDanger(game)) return move;
+  return openNoDanger(game);
+}
+
+/// Rule G. QUIRK-09: the scan goes on after a card, so one turn lays every card that fits when it
+/// is met. One would expect one card a turn.
+std::vector<Move> whateverFits(const Game& game, Scan scan) {
+  std::vector<Move> moves;
+  PerEnd<int> open = game.chain.openNumber;
+  PerSide<bool> aims = game.aimsLeftBottom;
+  for (const int slot : scanned(Side::Computer, scan)) {
+    const Card& card = game.card(slot);
+    const bool fits = card.bears(open[End::RightTop]) || card.bears(open[End::LeftBottom]);
+    if (!card.held || !fits) continue;
+    moves.push_back({slot, std::nullopt});
+    const auto end = endFor(card, open, aims);
+    if (!end) continue;
+    open[*end] = card.otherThan(open[*end]);
+    aims[Side::Player] = false;
+  }
+  return moves;
 }
 
 }  // namespace
@@ -200,11 +227,15 @@ std::array<int, handSize> scanned(Side side, Scan scan) {
   return slots;
 }
 
-std::optional<Move> chooseTactically(Game& game, Scan scan) {
-  if (const auto move = aimAtTargets(game, scan)) return move;
-  if (const auto move = leaveBannedNumber(game)) return move;
-  if (const auto move = layDoubleOrCoverDanger(game)) return move;
-  return openNoDanger(game);
+std::vector<Move> computersMoves(Game& game, Scan scan) {
+  if (game.levels.computer == 2) {
+    if (const auto move = chooseTactically(game, scan)) {
+      game.mind.lookedAt = move->card;
+      return {*move};
+    }
+  }
+  game.mind.lookedAt = scanned(Side::Computer, scan).back();
+  return whateverFits(game, scan);
 }
 
 }  // namespace mevracard

@@ -2,11 +2,12 @@
 
 #include <array>
 #include <optional>
+#include <vector>
 
 #include "game/game.h"
 
-/// Which card the tactical computer lays. The rules read the game and keep the
-/// tactical numbers in it.
+/// What the computer lays in its turn. The rules read the game and note in its `mind` what they
+/// find.
 namespace mevracard {
 
 /// Order in which a hand is looked through.
@@ -24,8 +25,8 @@ struct Move {
   std::optional<End> end;
 };
 
-/// Rules A to F in their order: the first that applies decides. Empty if none does. The
-/// caller has set `danger` to none at the start of the turn.
-[[nodiscard]] std::optional<Move> chooseTactically(Game& game, Scan scan);
+/// The computer's turn at its level, one move after the other. At level 2 the first of rules A to F
+/// that applies decides; else, and at level 1, rule G does.
+[[nodiscard]] std::vector<Move> computersMoves(Game& game, Scan scan);
 
 }  // namespace mevracard
