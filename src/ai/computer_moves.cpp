@@ -128,7 +128,7 @@ void findSecondDanger(Game& game, const Card& examined) {
     }
     // QUIRK-23: any card of the player's slots ends the search here, held or not, also by a number
     // left over from an earlier card. One would expect each search to start afresh; the computer
-    // may then overlook a double. Meant.
+    // may then overlook a double.
     if (number == game.mind.secondDanger) return;
   }
 }

@@ -34,7 +34,7 @@ NumberCounts playedCounts(const Game& game) {
 
 NumberCounts playerCounts(const Game& game) {
   // QUIRK-35: the computer looks into the player's hand. One would expect it to play by what lies
-  // on the table; at level 2 the player meets an opponent that knows every card. Meant.
+  // on the table; at level 2 the player meets an opponent that knows every card.
   NumberCounts counts{};
   for (const int slot : handOf(Side::Player)) {
     const Card& card = game.card(slot);
@@ -48,7 +48,7 @@ NumberCounts playerCounts(const Game& game) {
 Targets rarestNumbers(const NumberCounts& playerCount) {
   const int best = rarest(playerCount, 0, 0);
   // QUIRK-21: leaves out the number 0, chosen or not, in place of the number that was chosen. One
-  // would expect two different targets; the computer often aims twice at one number. Meant.
+  // would expect two different targets; the computer often aims twice at one number.
   return {best, rarest(playerCount, 1, best)};
 }
 

@@ -28,7 +28,6 @@ std::size_t partOf(double draw, std::uint64_t parts) {
 
 /// QUIRK-03: `v` never swaps with itself, so the permutation is one single cycle. One would expect
 /// every permutation; the player never sees the n-th pair (the 0-0 is the first) dealt to slot n.
-/// Meant.
 std::array<std::size_t, cardCount> singleCycle(const std::function<double()>& draw) {
   std::array<std::size_t, cardCount> slots{};
   std::iota(slots.begin(), slots.end(), std::size_t{0});

@@ -27,7 +27,7 @@ Laying layingOf(End end, int n) {
     if (n <= 21) return {21 - n, 1, false, true};
     // QUIRK-01: the chain has turned upwards again, but the card keeps the orientation of the
     // downward column. One would expect the matching number against the chain; the player sees it
-    // on the outer side. Meant.
+    // on the outer side.
     return {n - 22, 2, true, true};
   }
   if (n <= 6) return {6 - n, 0, false, true};
@@ -42,7 +42,7 @@ std::optional<MarkerMove> markerMoveOf(End end, int n) {
   } else {
     if (n == 7) return MarkerMove{1, {6360, 8160}};
     // QUIRK-02: the second turn of the Left/Bottom end takes the other end's marker. One would
-    // expect marker 1; the player sees the Right/Top end's turn lose its mark. Meant.
+    // expect marker 1; the player sees the Right/Top end's turn lose its mark.
     if (n == 21) return MarkerMove{0, {5400, 2280}};
   }
   return std::nullopt;

@@ -15,7 +15,7 @@ bool fits(const Game& game, int card) {
 std::optional<End> endFor(const Card& card, const PerEnd<int>& openNumber,
                           const PerSide<bool>& aimsLeftBottom) {
   // QUIRK-07: a card that fits the Right/Top end alone is refused while Left/Bottom is asked for.
-  // One would expect it at the end it fits; the player's card stays in the hand. Meant.
+  // One would expect it at the end it fits; the player's card stays in the hand.
   const bool rightAllowed = !aimsLeftBottom[Side::Player] && !aimsLeftBottom[Side::Computer];
   if (rightAllowed && card.bears(openNumber[End::RightTop])) return End::RightTop;
   if (card.bears(openNumber[End::LeftBottom])) return End::LeftBottom;

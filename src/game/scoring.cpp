@@ -16,7 +16,7 @@ Leftover leftover(const Game& game, Side side) {
 bool playerWinsDeadlock(const Leftover& player, const Leftover& computer) {
   if (player.sum != computer.sum) return player.sum < computer.sum;
   // QUIRK-20: nothing is left to tell them apart, and still somebody wins. One would expect a draw;
-  // the player loses. Meant.
+  // the player loses.
   return computer.cards > player.cards;
 }
 

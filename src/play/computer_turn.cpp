@@ -34,7 +34,7 @@ void layComputersCards(MainWindow& w) {
 }
 
 /// QUIRK-11: a computer that cannot move either counts its pass before the deadlock, without the
-/// message that goes with a pass. Meant.
+/// message that goes with a pass.
 void passForComputer(MainWindow& w) {
   pass(w.game, Side::Computer);
   if (mustPass(w.game, Side::Player)) {

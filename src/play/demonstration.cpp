@@ -47,7 +47,7 @@ Label* markedAtEnd(MainWindow& w, End end) {
   const Laying laying = layingOf(end, n);
   // QUIRK-42: in the third column, from the 22nd card of the Right/Top end and the 21st of the
   // Left/Bottom end on, the number that touches the chain is marked. One would expect the open one;
-  // the player sees the wrong half of the end card turn red. Meant.
+  // the player sees the wrong half of the end card turn red.
   const bool thirdColumn = laying.column == 2;
   return laying.upperTouches == thirdColumn ? &card.upper : &card.lower;
 }

@@ -13,7 +13,7 @@ namespace {
 
 /// A lost game is counted here, whoever has decided it.
 /// QUIRK-43: and so is a demonstration that is played to its end. One would expect the
-/// statistics to hold the player's own games alone; the player finds one more there. Meant.
+/// statistics to hold the player's own games alone; the player finds one more there.
 void record(MainWindow& w, GameResult result) {
   w.result.verdict.caption = result == GameResult::Won ? "You win" : "You lose";
   recordResult(w, result);

@@ -9,7 +9,7 @@ namespace {
 
 /// A level that cannot be saved is not taken: the new game reads it from the file.
 /// QUIRK-27: the running game is dropped without a word. One would expect a loss, as for New Game;
-/// the statistics do not see it. Meant, here and at the tutorial's start.
+/// the statistics do not see it. So here and at the tutorial's start.
 void playAt(MainWindow& w, const SavedLevels& levels) {
   saveSettings(w, levels);
   startAnotherGame(w);

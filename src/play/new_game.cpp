@@ -29,7 +29,7 @@ void dropGameBefore(MainWindow& w) {
 
 /// QUIRK-08: the seed is the year and the sum of minute and second, nothing else: a year has at
 /// most 118 different deals. One would expect a new deal every time; a player who comes back at a
-/// minute and second of the same sum meets the same hands. Meant.
+/// minute and second of the same sum meets the same hands.
 void seedRandom(MainWindow& w) {
   const ClockTime time = w.desktop.clock();
   w.game.dealSeed = dealSeedOf(w.desktop.shortDate(), time.minute, time.second);

@@ -17,7 +17,7 @@ void showDoubleZero(MainWindow& w, int slot) {
   w.state.playCard = slot;
   // QUIRK-04: it glides towards the place of the last card of the game before, and not at all when
   // the player's hand fits none of that game's last numbers. One would expect a glide to the
-  // centre; the player sees the 0-0 jump there from elsewhere. Meant.
+  // centre; the player sees the 0-0 jump there from elsewhere.
   glideCard(w);
   putAt(w.card(slot).frame, chainPlace(End::RightTop, openingPosition, 0), w.scale());
   w.card(slot).paintNumbers(handColour);

@@ -18,7 +18,7 @@ constexpr int tipsTop = 1000;
 constexpr int tipsGap = 30;
 
 /// QUIRK-12: card 13 is selected without being marked. One would expect no selection; Enter or
-/// Space lays card 13 if it is held and fits, and 'p' goes on from there. Meant.
+/// Space lays card 13 if it is held and fits, and 'p' goes on from there.
 void selectLastCard(MainWindow& w) {
   const int before = w.state.selectedCard;
   if (before < handSize) w.card(before).paintNumbers(handColour);
@@ -89,7 +89,7 @@ void acknowledgePass(MainWindow& w) {
 
 void closeComputersTurn(MainWindow& w) {
   // QUIRK-10: a deadlock that was decided just before is recorded a second time here. One would
-  // expect one loss a game; the statistics count two. Meant.
+  // expect one loss a game; the statistics count two.
   if (w.game.counts.cardsLeft[Side::Computer] == 0) computerHasWon(w);
   if (turnWasPlain(w)) appendGeneralTip(w);
   w.form.giveFocus(w.tutorial.next);

@@ -53,12 +53,12 @@ bool layCard(MainWindow& w, int card, Side by) {
 void glideCard(MainWindow& w) {
   const TableState& s = w.state;
   // QUIRK-06: no glide once the player holds no fitting card. One would expect every card to glide;
-  // the player sees this one stand in its place at once. Meant.
+  // the player sees this one stand in its place at once.
   if (mustPass(w.game, Side::Player)) return;
 
   Frame& frame = w.card(s.playCard).frame;
   // QUIRK-05: the target is the Right/Top side for both ends. One would expect the card's own side;
-  // the player sees a Left/Bottom card fly to the mirror column and jump across. Meant.
+  // the player sees a Left/Bottom card fly to the mirror column and jump across.
   const GridPoint target = chainPlace(End::RightTop, s.layPosition, s.layColumn);
   const double scale = w.scale();
   const double left0 = frame.left;

@@ -38,7 +38,7 @@ void closePanelIfOpen(MainWindow& w) {
 }
 
 /// QUIRK-39: a refused card keeps its red numbers although it is no longer selected. One would
-/// expect them to go; the player may see two red cards after the next 'p'. Meant.
+/// expect them to go; the player may see two red cards after the next 'p'.
 /// A reply that was due stays due, else a player who cannot move would wait for ever; the choice
 /// must not go on with the refused card.
 void refuseCard(MainWindow& w, bool replyWasDue) {
@@ -50,7 +50,7 @@ void refuseCard(MainWindow& w, bool replyWasDue) {
 }
 
 /// QUIRK-36: takes a card also while the computer's reply is due. One would expect the player to
-/// wait; several cards laid in time meet one reply, a second after the last of them. Meant.
+/// wait; several cards laid in time meet one reply, a second after the last of them.
 void laySelectedCard(MainWindow& w) {
   TableState& s = w.state;
   const int card = s.selectedCard;
@@ -66,7 +66,7 @@ void laySelectedCard(MainWindow& w) {
 
 /// QUIRK-13: looks at twelve places after the current one, and from no selection starts at card 2.
 /// One would expect all fourteen in turn; the player reaches cards 0 and 1 only on the second
-/// round, and with one card left every other press selects an empty place. Meant.
+/// round, and with one card left every other press selects an empty place.
 int nextSelection(const MainWindow& w) {
   const int current = w.state.selectedCard;
   int card = current;
@@ -92,12 +92,12 @@ void doubleClickCard(MainWindow& w, int card) {
   TableState& s = w.state;
   if (s.tutorial.running) return;
   // QUIRK-19: every double-click resets the tip, also one that does nothing else, as on a card of
-  // the computer's or after the end. The player's tip then is a bare heading. Meant.
+  // the computer's or after the end. The player's tip then is a bare heading.
   resetTip(w);
   if (!gameTakesCards(w) || ownerOf(card) == Side::Computer) return;
   s.selectedCard = card;
   // QUIRK-14: the last card is laid without the choice, while 'p' opens it for the last card too.
-  // One would expect the same of both. Meant.
+  // One would expect the same of both.
   if (w.game.counts.cardsLeft[Side::Player] > 1 && offersChoice(w.game, card)) {
     openChoice(w, card);
     s.tipText += sameNumberTip(w.game.chain.openNumber[End::RightTop],
@@ -113,7 +113,7 @@ void pressDiscard(MainWindow& w) {
   TableState& s = w.state;
   closePanelIfOpen(w);
   // QUIRK-17: also while the choice is open. One would expect the choice to come first; Discard
-  // lays the selected card at the Right/Top end. Meant.
+  // lays the selected card at the Right/Top end.
   if (s.selectedCard != noSelection && gameTakesCards(w)) laySelectedCard(w);
   s.cardWasLaid = false;
 }

@@ -10,7 +10,7 @@ namespace {
 
 /// Another running game may change the file meanwhile; then the change is made to what it wrote.
 /// QUIRK-44: tells that the counts begin again also when they are emptied. One would expect no
-/// word; the player who clears 999 games reads that they are reset. Meant.
+/// word; the player who clears 999 games reads that they are reset.
 void change(MainWindow& w, const std::function<std::string(std::string_view)>& changed) {
   bool told = false;
   bool written = false;

@@ -32,7 +32,7 @@ void chooseRightTop(MainWindow& w) { layChosenCard(w, End::RightTop); }
 
 void cancelChoice(MainWindow& w) {
   // QUIRK-40: a card selected by 'p' stays selected. One would expect to be asked again; the next
-  // Enter lays it at the Right/Top end. Meant.
+  // Enter lays it at the Right/Top end.
   resetTip(w);
   appendGeneralTip(w);
   closeChoice(w);

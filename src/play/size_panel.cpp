@@ -19,7 +19,6 @@ void closeSizePanel(MainWindow& w) {
   w.menu.howToPlay.enabled = true;
   // QUIRK-37: a size takes effect at once but is saved when the panel closes, or along with a
   // level. One would expect it to last; with the panel left open the next start shows the old size.
-  // Meant.
   saveSettings(w);
 }
 

@@ -32,7 +32,7 @@ class Scaler {
   }
   /// A width that no longer fits its 16 bits stays as it is.
   /// QUIRK-33: rounded at every step. One would expect lines to grow and shrink with the table;
-  /// moving the scroll bar one by one never thins them. Meant.
+  /// moving the scroll bar one by one never thins them.
   void scaleBorder(std::int16_t& width) const {
     const double product = std::nearbyint(steady(width * factor_));
     if (std::abs(product) <= std::numeric_limits<std::int16_t>::max()) {
@@ -41,7 +41,7 @@ class Scaler {
   }
 
   /// QUIRK-18: shows the control too, also one that was hidden before. The player sees the dealt
-  /// cards behind the first message box, which later deals keep hidden. Meant.
+  /// cards behind the first message box, which later deals keep hidden.
   template <typename AnyControl>
   void show(AnyControl& control) const {
     scale(control);

@@ -16,7 +16,7 @@ void resetTip(MainWindow& w) { w.state.tipText = tipHeading(); }
 void appendGeneralTip(MainWindow& w) {
   TableState& s = w.state;
   // QUIRK-15: nothing is reset here, so with the keyboard alone the tip grows turn by turn. One
-  // would expect the last turn's tip only; the player reads the earlier ones above it. Meant.
+  // would expect the last turn's tip only; the player reads the earlier ones above it.
   s.tipText +=
       generalTip(w.game.chain.openNumber[End::RightTop], w.game.chain.openNumber[End::LeftBottom]);
 }

@@ -10,7 +10,7 @@ namespace {
 
 /// QUIRK-41: before the first demonstrated move, the tick after a pass finds it done. One would
 /// expect the line to name the computer; the player reads "Your Turn", and NEXT lets the computer
-/// move. Meant.
+/// move.
 void takeDemonstrationForOver(MainWindow& w) {
   announce(w, Announcement::YourTurn);
   raiseStatus(w);

@@ -45,7 +45,7 @@ void letComputerMove(MainWindow& w) {
 }
 
 /// QUIRK-31: NEXT during the glide gives up the demonstrated move and lets the computer move at
-/// once. One would expect it to wait; the player sees the computer move twice in a row. Meant.
+/// once. One would expect it to wait; the player sees the computer move twice in a row.
 /// The marks of the given-up move go, or the player would take them for the next one's.
 void giveUpMove(MainWindow& w) {
   for (CardControls& card : w.cards) card.paintNumbers(handColour);
@@ -93,7 +93,7 @@ void pressNext(MainWindow& w) {
 
 void mouseDownOnNext(MainWindow& w) {
   // QUIRK-30: pressed with the keyboard, NEXT does not pass here. One would expect the glide to
-  // start at the button; it starts where the one before ended. Meant.
+  // start at the button; it starts where the one before ended.
   w.state.demo.start = placeOnScreen(w, w.tutorial.next).value_or(nextButton);
 }
 

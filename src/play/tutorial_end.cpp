@@ -14,7 +14,7 @@ void endTutorial(MainWindow& w) {
   w.state.demo.busy = false;
   w.tutorial.show(false);
   // QUIRK-29: `helpTableSize` is not among them. One would expect every entry back; the player
-  // finds Help's "ScreenOption" greyed until the next start, the one in the menu bar works. Meant.
+  // finds Help's "ScreenOption" greyed until the next start, the one in the menu bar works.
   w.menu.howToPlay.enabled = true;
   w.menu.file.enabled = true;
   w.menu.tableSize.enabled = true;

@@ -48,7 +48,7 @@ Statistics statisticsOf(std::string_view fileText) {
   Statistics statistics{numberOf(counts.won), numberOf(counts.lost), 0, 0};
   const int total = statistics.won + statistics.lost;
   if (total == 0) return statistics;
-  // QUIRK-34: both are cut off, so that they may add up to 99. Meant.
+  // QUIRK-34: both are cut off, so that they may add up to 99.
   statistics.wonPercent = statistics.won * 100 / total;
   statistics.lostPercent = statistics.lost * 100 / total;
   return statistics;
@@ -62,7 +62,7 @@ bool countsAreFull(std::string_view fileText) {
 std::string withResult(std::string_view fileText, GameResult result) {
   // QUIRK-28: the two counts have become numbers, so joining them adds them: the file holds the
   // single digit 1. One would expect "001000" or "000001"; the next window shows 1 game won and 1
-  // lost, and the results after it join that short text just as it stands. Meant.
+  // lost, and the results after it join that short text just as it stands.
   if (countsAreFull(fileText)) return withCounts(fileText, "1");
   const auto [won, lost] = countsOf(fileText);
   return withCounts(fileText, result == GameResult::Won ? padded(numberOf(won) + 1) + lost

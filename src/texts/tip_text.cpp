@@ -29,14 +29,14 @@ std::string generalTip(int first, int second) {
 std::string openingTip() { return "The 0-0 card has been automatically discarded. "; }
 
 std::string openingAnsweredTip() {
-  // QUIRK-16: written for the moment after the computer's answer, one second ahead of it. Meant.
+  // QUIRK-16: written for the moment after the computer's answer, one second ahead of it.
   return "And computer has responded. It is now your turn to move your card.";
 }
 
 std::string sameNumberTip(int first, int second) {
   return " You can make Computer in difficult situation by imposing MEVRA, "
          "that is the situation when the two active numbers are the same." +
-         // QUIRK-32: no blank between these two sentences. Meant.
+         // QUIRK-32: no blank between these two sentences.
          withNumbers("The active numbers now are ", first, second) +
          "\rPush the button corresponding to the number you want to be the active number."
          " Or alternatively you can directly push the number key on the keyboard."
