@@ -1,8 +1,8 @@
 #!/usr/bin/python3
 """play_by_ear.py PROGRAM: plays a whole game with the computer's cards face down, by keys and by
-what assistive technology hears alone; the first card that fits is laid by its press action. It runs
-on a bus of its own. Whatever can be heard or asked for is held against the cards that are the player's
-to see, and each move against the ends of the chain as they were heard before."""
+what comes over a bus of its own alone; the first card that fits is laid by its press action. What is
+said is held against the ends of the chain and the cards that the player may know of. The bus must
+tell the same to who asks and to who keeps what was told before: names, and what a list holds."""
 
 import os
 import re
@@ -18,6 +18,7 @@ from gi.repository import Atspi, GLib  # noqa: E402
 PATIENCE = 120  # seconds without a word until the game counts as dumb
 OPEN = re.compile(r"Open numbers: (\d) at Right/Top, (\d) at Left/Bottom")
 LAST_WORDS = re.compile(r"You (win|lose)\.")
+CONTROLS = Atspi.Role.PUSH_BUTTON, Atspi.Role.SCROLL_BAR, Atspi.Role.MENU_ITEM
 
 
 def cards(texts):
@@ -37,8 +38,9 @@ class Player:
     def __init__(self):
         self.game, self.news, self.heard, self.hand = None, [], [], None
         self.pressed, self.laid, self.ends = False, set(), {}
+        self.kept, self.control_names = {}, {}  # of each list its items, as the events tell
         self.listener = Atspi.EventListener.new(self.hear)
-        for kind in "object:state-changed:focused", "object:announcement":
+        for kind in "object:state-changed:focused", "object:property-change", "object:children-changed":
             self.listener.register(kind)
 
     def start(self, program):
@@ -50,13 +52,25 @@ class Player:
         self.game = subprocess.Popen([program], env=always)
 
     def hear(self, event):
-        """What a screen reader says by itself: where the focus comes to, and announcements."""
-        if event.source is None or event.source.get_process_id() != self.game.pid:
+        source = event.source
+        if source is None or source.get_process_id() != self.game.pid:
             return
-        if "announcement" in event.type:
-            self.news.append((event.source, event.any_data))
-        elif event.detail1:
-            self.news.append((event.source, event.source.get_name()))
+        if "children" in event.type and source in self.kept:
+            self.keep(self.kept[source], event)
+        elif "focused" in event.type and event.detail1:
+            kept = source.get_name()
+            source.clear_cache()
+            if kept != source.get_name() or not kept:
+                self.fail(f"{kept!r} is known where {source.get_name()!r} is to be heard")
+            self.news.append((source, kept))
+
+    def keep(self, items, event):
+        if event.type.endswith("add"):
+            items.insert(event.detail1, event.any_data)
+        elif items[event.detail1] != event.any_data:
+            self.fail(f"{event.detail1} is no index of what goes")
+        else:
+            del items[event.detail1]
 
     def next_news(self):
         beats = []
@@ -71,11 +85,9 @@ class Player:
     def play(self):
         while not self.heard or not LAST_WORDS.search(self.heard[-1]):
             source, words = self.next_news()
-            if not words or self.heard[-1:] == [words]:
-                continue
             self.heard.append(words)
             self.follow(words)
-            items = self.look_for_covered_cards(words)
+            items = self.look_around(words)
             if "Your Turn" in words and not self.pressed and self.press_one(items["Your cards"]):
                 self.pressed = True
             elif key := self.answer_to(words, source.get_role()):
@@ -90,10 +102,13 @@ class Player:
 
     def follow(self, words):
         """Lays what is heard at the ends as they were, in the order in which it is told."""
-        if cards([words]) <= self.laid or not (told := OPEN.search(words)):
-            return  # heard before
-        for moves, end in re.findall(r"((?:\d-\d(?:, )?)+)(?: at (\w+/\w+))?[,.]", words[: told.start()]):
+        if not (told := OPEN.search(words)):
+            return
+        laid = words[re.search(r"(You lay|Computer lays) ", words).start() : told.start()]
+        for moves, end in re.findall(r"((?:\d-\d(?:, )?)+)(?: at (\w+/\w+))?[,.]", laid):
             for card in re.findall(r"\d-\d", moves):
+                if card in self.laid:
+                    self.fail(f"{card} is laid twice")
                 for place in [end] if end else ["Right/Top", "Left/Bottom"]:
                     self.join(card, place)
                 self.laid.add(card)
@@ -116,28 +131,57 @@ class Player:
         said_no = words.endswith(("does not fit. ", "is selected. "))
         return "p" if said_no or "Your Turn" in words else None
 
-    def look_for_covered_cards(self, words):
-        """Gives the items of each list."""
+    def look_around(self, words):
+        """Gives the items of each list. What goes meanwhile is not looked for again."""
+        while True:
+            try:
+                return self.look(words)
+            except GLib.GError:
+                GLib.MainContext.default().iteration(False)
+
+    def look(self, words):
         desktop = Atspi.get_desktop(0)
         programs = map(desktop.get_child_at_index, range(desktop.get_child_count()))
         game = next(p for p in programs if p and p.get_process_id() == self.game.pid)
         all_parts = list(parts(game))
+        self.look_at_controls(all_parts)
         lists = {p.get_name(): p for p in all_parts if p.get_role() == Atspi.Role.LIST}
         items = {name: list(parts(p)) for name, p in lists.items()}
+        if not self.news:
+            self.look_at_kept(lists, items)
+        self.look_for_covered_cards(words, items, all_parts)
+        return items
+
+    def look_at_controls(self, all_parts):
+        focused = [p for p in all_parts if p.get_state_set().contains(Atspi.StateType.FOCUSED)]
+        if len(focused) > 1:
+            self.fail(f"the keyboard is at {[p.get_name() for p in focused]}")
+        for part in all_parts:
+            name = re.sub(r"^Mevra \d$", "Mevra", part.get_name())
+            if part.get_role() in CONTROLS and self.control_names.setdefault(part, name) != name:
+                self.fail(f"{self.control_names[part]} is called {name} now")
+
+    def look_at_kept(self, lists, items):
+        for name, known in lists.items():
+            if self.kept.setdefault(known, items[name]) != items[name]:
+                self.fail(f"{name} holds {[item.get_name() for item in items[name]]}")
+
+    def look_for_covered_cards(self, words, items, all_parts):
         names = {name: [item.get_name() for item in found] for name, found in items.items()}
         if self.hand is None and names["Your cards"]:
             self.hand = cards(names["Your cards"])
         if LAST_WORDS.search(words):  # now the computer's cards lie open
-            return items
+            return
         if set(names["Computer's cards"]) - {"face down"}:
             self.fail(f"the computer's hand is told: {names}")
         told = [words, *(p.get_name() + p.get_description() for p in all_parts)]
         if secret := cards(told) - (self.hand or set()) - cards(names["Table"]) - {"0-0"}:
             self.fail(f"told, and neither the player's nor on the table: {secret}")
-        return items
 
     def fail(self, why):
-        sys.exit(f"play_by_ear: {why}; heard before:\n" + "\n".join(self.heard[-20:]))
+        sys.stderr.write(f"play_by_ear: {why}; heard before:\n" + "\n".join(self.heard[-20:]) + "\n")
+        self.game.kill()
+        os._exit(1)
 
 
 player = Player()

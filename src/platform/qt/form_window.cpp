@@ -35,6 +35,11 @@ int keyCodeOf(const QKeyEvent& event) {
       return keyEnter;
     case Qt::Key_Escape:
       return keyEscape;
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+      return keyArrow;
     default:
       break;
   }
@@ -49,7 +54,8 @@ FormWindow::FormWindow(Form& form, Deliver deliver, FormWindow* mainWindow)
       form_(form),
       deliver_(std::move(deliver)),
       main_(mainWindow),
-      canvas_(new Canvas(form, *this, *this)) {
+      canvas_(new Canvas(form, *this, *this)),
+      voice_(form.speech, *canvas_) {
   setObjectName(toText(form.name));
   setCentralWidget(canvas_);
   const QSize size = (QSizeF(form.width, form.height) / twipsPerDesignPixel).toSize();
@@ -81,6 +87,8 @@ void FormWindow::flush() {
     menuBar()->setEnabled(form_.enabled);
   }
   canvas_->setEnabled(form_.enabled);
+  // Before the widget goes that has the keyboard: the toolkit would pass it on as it likes.
+  if (form_.focus == nullptr || !isWidget(*form_.focus)) flushFocus();
   canvas_->flush();
   flushTimer();
   flushFocus();
@@ -109,9 +117,7 @@ void FormWindow::flushFocus() {
   // The player may have taken it to a link or a text, of which the game knows nothing.
   QWidget* now = focusWidget();
   const bool stays = asBefore && now != nullptr && now->isVisible() && canvas_->isPlayersOwn(*now);
-  QWidget& listener = stays ? *now : wanted;
-  voice_.flush(form_.speech, *canvas_, listener);
-  if (now != &listener) listener.setFocus(Qt::OtherFocusReason);
+  voice_.flush(stays ? *now : wanted);
 }
 
 void FormWindow::open() {

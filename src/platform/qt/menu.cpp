@@ -3,12 +3,24 @@
 #include <QActionGroup>
 #include <QApplication>
 #include <QMenu>
+#include <QShortcut>
 #include <algorithm>
 #include <utility>
 
 #include "platform/qt/look.h"
 
 namespace mevracard {
+
+namespace {
+
+void openFirst(QMenuBar& bar) {
+  const QList<QAction*> menus = bar.actions();
+  const auto first = std::find_if(menus.begin(), menus.end(),
+                                  [](const QAction* menu) { return menu->isEnabled(); });
+  if (first != menus.end()) bar.setActiveAction(*first);
+}
+
+}  // namespace
 
 void closeMenus() {
   while (QWidget* popup = QApplication::activePopupWidget()) popup->close();
@@ -18,6 +30,8 @@ Menu::Menu(QMenuBar& bar, const std::vector<MenuEntry*>& entries,
            std::function<void(MenuEntry&)> chosen)
     : chosen_(std::move(chosen)) {
   add(bar, entries);
+  auto* key = new QShortcut(Qt::Key_F10, &bar);
+  QObject::connect(key, &QShortcut::activated, &bar, [&bar] { openFirst(bar); });
 }
 
 void Menu::add(QWidget& parent, const std::vector<MenuEntry*>& entries) {

@@ -12,7 +12,7 @@
 #include "platform/qt/look.h"
 #include "platform/qt/menu.h"
 #include "platform/qt/reduced_motion.h"
-#include "platform/qt/voice.h"
+#include "platform/qt/spoken_tree.h"
 #include "platform/view.h"
 
 namespace mevracard {
@@ -34,7 +34,7 @@ class QtDesktop::Busy {
 QtDesktop::QtDesktop(const std::filesystem::path& dataDir, const std::vector<DefaultFile>& defaults)
     : files_(dataDir, defaults) {
   applyLook();
-  installVoices();
+  installSpokenTrees();
   // What the first picture does not need waits for a moment.
   constexpr int afterOpening = 250;  // ms
   QTimer::singleShot(afterOpening, &dueTicks_, [this] {
@@ -118,6 +118,7 @@ void QtDesktop::showBox(MessageBox::Kind kind, std::string_view text) {
   if (endingBySystem_) return;
   const Busy busy(*this);
   closeMenus();
+  opening_ = false;
   QWidget* parent = QApplication::activeWindow();
   if (parent == nullptr && !windows_.empty()) parent = windows_.front().get();
   const QPoint middle = windows_.empty() ? QPoint() : windows_.front()->middle();

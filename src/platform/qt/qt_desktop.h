@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAccessible>
 #include <QTimer>
 #include <memory>
 
@@ -35,7 +36,8 @@ class QtDesktop : public Desktop {
   void reportError(std::string_view text) override;
   void end() override;
 
-  [[nodiscard]] bool speaks() const override { return true; }
+  /// Also at the opening, when the toolkit does not know yet whether somebody listens.
+  [[nodiscard]] bool speaks() const override { return opening_ || QAccessible::isActive(); }
   [[nodiscard]] int screenHeight() const override;
   [[nodiscard]] int twipsPerPixel() const override;
   void movePointer(int x, int y) override;
@@ -73,6 +75,7 @@ class QtDesktop : public Desktop {
   QTimer dueTicks_;  ///< runs out as soon as the events at hand are done
   SystemEnd systemEnd_{[this] { endBySystem(); }};
   int busy_ = 0;
+  bool opening_ = true;  ///< no box has opened yet
   bool endingBySystem_ = false;
   bool ended_ = false;
 };
