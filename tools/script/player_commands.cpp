@@ -37,7 +37,9 @@ int parseKey(std::string_view word) {
   throw ScriptError("no key " + excerpt(word));
 }
 
-void key(const Call& call) { report(call.session().desktop.key(parseKey(call.words[0]))); }
+void key(const Call& call) {
+  for (const auto word : call.words) report(call.session().desktop.key(parseKey(word)));
+}
 
 void scroll(const Call& call) {
   ScrollBar& bar = call.session().window().sizePanel.bar;
@@ -65,7 +67,7 @@ constexpr std::array<Command, 9> playerTable{{
     {"click", "click NAME", 1, 1, true, click},
     {"dblclick", "dblclick NAME", 1, 1, true, doubleClick},
     {"mousedown", "mousedown NAME", 1, 1, true, mouseDown},
-    {"key", "key KEY", 1, 1, true, key},
+    {"key", "key KEY ...", 1, anyNumber, true, key},
     {"scroll", "scroll N", 1, 1, true, scroll},
     {"tick", "tick [N]", 0, 1, true, tick},
     {"close", "close NAME", 1, 1, true, close},

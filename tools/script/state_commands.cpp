@@ -71,16 +71,18 @@ void show(const Call& call) {
   for (const auto& line : lines) print(line);
 }
 
-/// The text of `set` must not lose the blanks in it; every other value is one word.
-std::string_view valueOf(const Call& call) {
-  if (call.words[0] == "tipText") return afterFirstWord(call.text);
-  if (call.words.size() != 2) throw ScriptError("wanted: set FIELD VALUE");
-  return call.words[1];
+void setFields(MainWindow& w, const Call& call) {
+  // A text must not lose the blanks in it; every other value is one word.
+  if (call.words[0] == "tipText") return setField(w, "tipText", afterFirstWord(call.text));
+  if (call.words.size() % 2 != 0) throw ScriptError("wanted: set FIELD VALUE ...");
+  for (std::size_t i = 0; i < call.words.size(); i += 2) {
+    setField(w, call.words[i], call.words[i + 1]);
+  }
 }
 
 void set(const Call& call) {
   MainWindow& w = call.session().window();
-  setField(w, call.words[0], valueOf(call));
+  setFields(w, call);
   w.present();
 }
 
@@ -97,7 +99,7 @@ void callProcedure(const Call& call) {
 
 constexpr std::array<Command, 3> stateTable{{
     {"show", "show NAME ...", 1, anyNumber, true, show},
-    {"set", "set FIELD VALUE", 2, anyNumber, true, set},
+    {"set", "set FIELD VALUE ...", 2, anyNumber, true, set},
     {"call", "call NAME", 1, 3, true, callProcedure},
 }};
 
