@@ -61,7 +61,7 @@ struct Mind {
   int bannedNumber = noNumber;  ///< nearly used up: five non-doubles on the table, one held
   int danger = noNumber;        ///< of a double with which the player could answer
   int secondDanger = noNumber;  ///< of another one
-  int lookedAt = 0;             ///< the last card of its hand that it has considered
+  std::optional<int> lookedAt;  ///< the last card of its hand that it has considered
 };
 
 struct Game {

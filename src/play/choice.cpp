@@ -7,7 +7,7 @@ namespace mevracard {
 void openChoice(MainWindow& w, int card) {
   TableState& s = w.state;
   s.choiceOpen = true;
-  s.playCard = card;
+  s.choiceCard = card;
   announce(w, Announcement::ChooseOne);
   w.status.visible = true;
   w.choice.leftBottom.caption = "Mevra " + std::to_string(w.game.chain.openNumber[End::RightTop]);

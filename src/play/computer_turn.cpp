@@ -30,7 +30,6 @@ void layComputersCards(MainWindow& w) {
   countComputersTurn(w.game);
   const Scan scan = scanFor(w.desktop.random());
   for (const Move& move : computersMoves(w.game, scan)) layForComputer(w, move);
-  s.playCard = w.game.mind.lookedAt;
 }
 
 /// QUIRK-11: a computer that cannot move either counts its pass before the deadlock, without the

@@ -69,9 +69,9 @@ void movePointer(MainWindow& w, double x, double y) {
 /// A hand without a fitting card is aimed at whatever slot came last, which may be empty.
 bool layDemonstratedCard(MainWindow& w) {
   TableState& s = w.state;
-  if (w.game.card(s.playCard).held) return layCard(w, s.playCard, Side::Player);
+  if (w.game.card(s.demo.card).held) return layCard(w, s.demo.card, Side::Player);
   w.timer.disarm();
-  s.cardWasLaid = false;
+  s.lastOffer = {s.demo.card, false};
   return false;
 }
 
@@ -83,7 +83,7 @@ void endDemonstration(MainWindow& w) {
   s.tutorial.untilFirstCard = false;
   const bool laid = layDemonstratedCard(w);
   announce(w, Announcement::ComputersTurn);
-  const Card& card = w.game.card(s.playCard);
+  const Card& card = w.game.card(s.demo.card);
   s.tipText = demonstratedTip(card.upper, card.lower);
   if (laid) afterPlayersCard(w);
 }
@@ -92,8 +92,8 @@ void endDemonstration(MainWindow& w) {
 
 void aimPointer(MainWindow& w) {
   TableState& s = w.state;
-  CardControls& card = w.card(s.playCard);
-  const auto aim = aimOf(w.game, w.game.card(s.playCard));
+  CardControls& card = w.card(s.demo.card);
+  const auto aim = aimOf(w.game, w.game.card(s.demo.card));
   Label& target = !aim || aim->upper ? card.upper : card.lower;
   if (aim) {
     target.backColor = selectionColour;

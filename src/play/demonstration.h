@@ -4,7 +4,7 @@
 
 namespace mevracard {
 
-/// Marks the numbers that fit the card `playCard` and starts the pointer's way to it.
+/// Marks the numbers that fit the card to be demonstrated and starts the pointer's way to it.
 void aimPointer(MainWindow& w);
 
 /// A tick of the pointer's way: a glide, vanishing and reappearing twice as a double-click, a

@@ -128,8 +128,7 @@ void deal(MainWindow& w) {
   coverComputersHand(w);
   w.say(openingMessage);
   showCards(w, true);
-  openWithDoubleZero(w);
-  if (s.cardWasLaid) {
+  if (openWithDoubleZero(w) == Side::Computer) {
     w.timer.arm(replyDelay);
   } else if (mustPass(w.game, Side::Player)) {
     passOpening(w);

@@ -4,8 +4,7 @@
 
 namespace mevracard {
 
-/// Lays the 0-0 in the centre for whoever holds it and says whose turn it is; `cardWasLaid` is then
-/// whether the computer is to move.
-void openWithDoubleZero(MainWindow& w);
+/// Lays the 0-0 in the centre for whoever holds it, says whose turn it is and tells who moves next.
+Side openWithDoubleZero(MainWindow& w);
 
 }  // namespace mevracard

@@ -27,7 +27,7 @@ void showPlacement(MainWindow& w, int slot, const Placement& placement) {
   if (const auto move = markerMoveOf(end, w.game.chain.laidAt[end])) {
     putAt(w.table.markers[move->marker], move->place, w.scale());
   }
-  glideCard(w);
+  glideCard(w, slot);
   putAt(card.frame, chainPlace(end, laying.position, laying.column), w.scale());
 }
 
@@ -39,10 +39,9 @@ void putAt(Box& box, GridPoint at, double scale) {
 }
 
 bool layCard(MainWindow& w, int card, Side by) {
-  w.state.playCard = card;
   w.timer.disarm();
   const auto placement = lay(w.game, card, by);
-  w.state.cardWasLaid = placement.has_value();
+  w.state.lastOffer = {card, placement.has_value()};
   if (!placement) return false;
   // Its buttons would otherwise lay a card that the player no longer has in mind.
   closeChoice(w);
@@ -50,13 +49,13 @@ bool layCard(MainWindow& w, int card, Side by) {
   return true;
 }
 
-void glideCard(MainWindow& w) {
+void glideCard(MainWindow& w, int slot) {
   const TableState& s = w.state;
   // QUIRK-06: no glide once the player holds no fitting card. One would expect every card to glide;
   // the player sees this one stand in its place at once.
   if (mustPass(w.game, Side::Player)) return;
 
-  Frame& frame = w.card(s.playCard).frame;
+  Frame& frame = w.card(slot).frame;
   // QUIRK-05: the target is the Right/Top side for both ends. One would expect the card's own side;
   // the player sees a Left/Bottom card fly to the mirror column and jump across.
   const GridPoint target = chainPlace(End::RightTop, s.layPosition, s.layColumn);

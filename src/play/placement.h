@@ -9,9 +9,9 @@ namespace mevracard {
 /// whether it fitted; if not, nothing else has changed.
 bool layCard(MainWindow& w, int card, Side by);
 
-/// Moves the frame of `playCard` step by step towards the grid place that `layPosition` and
+/// Moves the frame of a card step by step towards the grid place that `layPosition` and
 /// `layColumn` name.
-void glideCard(MainWindow& w);
+void glideCard(MainWindow& w, int slot);
 
 /// Places a control at a design place times the scale.
 void putAt(Box& box, GridPoint at, double scale);

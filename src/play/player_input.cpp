@@ -115,7 +115,7 @@ void pressDiscard(MainWindow& w) {
   // QUIRK-17: also while the choice is open. One would expect the choice to come first; Discard
   // lays the selected card at the Right/Top end.
   if (s.selectedCard != noSelection && gameTakesCards(w)) laySelectedCard(w);
-  s.cardWasLaid = false;
+  s.lastOffer.laid = false;
 }
 
 void pressDiscardUnlessAsked(MainWindow& w) {

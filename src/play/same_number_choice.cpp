@@ -16,7 +16,7 @@ void layChosenCard(MainWindow& w, End end) {
   closeChoice(w);
   w.status.visible = false;
   if (end == End::LeftBottom) w.game.aimsLeftBottom[Side::Player] = true;
-  const bool laid = layCard(w, w.state.playCard, Side::Player);
+  const bool laid = layCard(w, w.state.choiceCard, Side::Player);
   // Only a script can have changed the numbers meanwhile; the card is counted all the same.
   if (!laid) --w.game.counts.cardsLeft[Side::Player];
   afterPlayersCard(w);

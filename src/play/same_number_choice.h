@@ -4,7 +4,7 @@
 
 namespace mevracard {
 
-/// The buttons of the choice: lay `playCard` at the Left/Bottom end, so that both ends show the
+/// The buttons of the choice: lay its card at the Left/Bottom end, so that both ends show the
 /// first active number; or at the Right/Top end, so that both show the second.
 void chooseLeftBottom(MainWindow& w);
 void chooseRightTop(MainWindow& w);

@@ -119,10 +119,7 @@ void rescaleTable(MainWindow& w, double factor) {
 void scrollTableSize(MainWindow& w, int tableSize) {
   TableState& s = w.state;
   w.sizePanel.bar.value = tableSize;
-  // Without a size before there is no ratio; the number that stands in its place is the card last
-  // played, as for every factor that could not be worked out.
-  const double before = s.tableSize;
-  rescaleTable(w, before != 0 ? tableSize / before : s.playCard);
+  rescaleTable(w, static_cast<double>(tableSize) / s.tableSize);
   s.tableSize = tableSize;
 }
 

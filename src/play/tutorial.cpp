@@ -22,7 +22,7 @@ constexpr ScreenPoint nextButton{112, 230};
 void chooseCardToShow(MainWindow& w) {
   TableState& s = w.state;
   for (const int card : scanned(Side::Player, scanFor(w.desktop.random()))) {
-    s.playCard = card;
+    s.demo.card = card;
     if (w.game.card(card).held && fits(w.game, card)) return;
   }
 }

@@ -13,8 +13,8 @@ News::Told News::all(const Game& game, const TableState& state) {
   all.laid = static_cast<int>(game.chain.laid.size());
   all.computersPasses = game.counts.passes[Side::Computer];
   all.announcement = state.announcement;
-  if (state.choiceOpen) all.choice = state.playCard;
-  if (state.demo.busy) all.shown = state.playCard;
+  if (state.choiceOpen) all.choice = state.choiceCard;
+  if (state.demo.busy) all.shown = state.demo.card;
   if (state.sizePanelOpen) all.size = state.tableSize;
   all.pass = state.passAwaitsOk;
   all.over = game.ending.over;
@@ -34,7 +34,7 @@ void News::note(const Game& game, const TableState& state, bool playerActed) {
   if (static_cast<int>(game.chain.laid.size()) < told_.laid) startAnew();
   if (std::exchange(refusals_, state.refusals) != state.refusals) {
     noteMoves(game);  // before the refusal
-    moves_ += nameOf(game.card(state.playCard)) + " does not fit. ";
+    moves_ += nameOf(game.card(state.lastOffer.card)) + " does not fit. ";
   }
   // A pass selects a card too, of which nobody is told.
   if (std::exchange(selected_, state.selectedCard) != state.selectedCard) picked_ = playerActed;
@@ -89,7 +89,7 @@ std::string News::situation(const Game& game, const TableState& state, const Tol
   if (now.over) return "";
   if (now.pass) return told_.pass ? "" : passWords();
   if (now.choice) return now.choice == told_.choice ? "" : choiceWords(game);
-  if (now.shown) return now.shown == told_.shown ? "" : shownCard(game, state.playCard);
+  if (now.shown) return now.shown == told_.shown ? "" : shownCard(game, state.demo.card);
   return laid_ || now.announcement != told_.announcement ? turnWords(state) : "";
 }
 

@@ -81,7 +81,7 @@ std::string prompt(const Game& game, const TableState& state) {
   if (state.choiceOpen) return choiceWords(game);
   if (state.sizePanelOpen) return panelWords(state);
   if (game.ending.over) return "The game is over. F10 opens the menu: File, New Game. ";
-  if (state.demo.busy) return shownCard(game, state.playCard);
+  if (state.demo.busy) return shownCard(game, state.demo.card);
   if (state.tutorial.running) return turnWords(state) + "Enter presses Next, Tab goes to Stop. ";
   return turnPrompt(game, state);
 }

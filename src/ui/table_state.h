@@ -36,15 +36,22 @@ struct TutorialState {
 struct Demonstration {
   bool busy = false;  ///< a move is being shown
   bool done = false;  ///< set by the opening, until a move is begun
+  int card = 0;       ///< to be laid
   int tick = 0;       ///< ticks of the pointer's way
   ScreenPoint start, offset;
 };
 
+/// A card that a side wanted to lay. Discard leaves its `laid` behind as false, and the opening as
+/// whether the player held the 0-0: scripts read it so, and nothing else does.
+struct Offer {
+  int card = 0;
+  bool laid = false;
+};
+
 struct TableState {
   // The move at hand.
-  int playCard = 0;          ///< slot of the card to lay, or under examination
-  bool cardWasLaid = false;  ///< the card last offered; after the opening: the computer is to move
-  int layPosition = 0;       ///< grid place of the card just laid; a deal keeps it
+  Offer lastOffer;
+  int layPosition = 0;  ///< grid place of the card just laid; a deal keeps it
   int layColumn = 0;
   int selectedCard = 0;  ///< the player's selection, noSelection for none
   int refusals = 0;      ///< cards that the player wanted to lay and could not
@@ -52,6 +59,7 @@ struct TableState {
   // What the player is asked and told.
   bool takesCards = false;     ///< from a game's start to its end; a new table size gives it back
   bool choiceOpen = false;     ///< the same-number choice waits for an answer
+  int choiceCard = 0;          ///< that it is about
   bool passAwaitsOk = false;   ///< the player's pass was announced and waits for its OK
   bool sizePanelOpen = false;  ///< the size panel is on the table
   Announcement announcement = Announcement::None;

@@ -49,6 +49,7 @@ void runLine(std::unique_ptr<Session>& session, std::string_view line) {
   }
   if (command.needsProgram) (void)session->window();
   command.run(call);
+  session->joinPlayCard();
 }
 
 }  // namespace mevracard::script

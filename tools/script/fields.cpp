@@ -15,6 +15,7 @@ namespace {
 constexpr Range anyCount{-1'000'000, 1'000'000};
 constexpr Range cardNumber{0, 6};
 constexpr Range slot{0, cardCount - 1};
+constexpr Range tableSize{1, 1'000'000};
 constexpr double largestDecimal = 1e6;
 
 /// A flag that a script reads as empty until it is set.
@@ -51,8 +52,8 @@ constexpr std::array fields{
     Field{"sisa", [](G& g, S&, int i) -> Place {
             return &(i < 2 ? g.counts.cardsLeft : g.counts.passes)[Side(i % 2)]; }, anyCount, 4},
     Field{"theend", [](G& g, S&, int) -> Place { return &g.ending.over; }},
-    Field{"playCard", [](G&, S& s, int) -> Place { return &s.playCard; }, slot},
-    Field{"moveMade", [](G&, S& s, int) -> Place { return &s.cardWasLaid; }},
+    Field{"playCard", [](G&, S& s, int) -> Place { return &s.lastOffer.card; }, slot},
+    Field{"moveMade", [](G&, S& s, int) -> Place { return &s.lastOffer.laid; }},
     Field{"layPosition", [](G&, S& s, int) -> Place { return &s.layPosition; }},
     Field{"layColumn", [](G&, S& s, int) -> Place { return &s.layColumn; }},
     Field{"leftEndChosen", [](G& g, S&, int) -> Place { return &g.aimsLeftBottom[Side::Player]; }},
@@ -77,7 +78,7 @@ constexpr std::array fields{
     Field{"firstDealDone", [](G&, S& s, int) -> Place { return LateFlag{&s.newGameAsked}; }},
     Field{"screenHeight", [](G&, S& s, int) -> Place { return &s.screenHeight; }},
     Field{"twipsPerPixel", [](G&, S& s, int) -> Place { return &s.twipsPerPixel; }},
-    Field{"screenValue", [](G&, S& s, int) -> Place { return &s.tableSize; }},
+    Field{"screenValue", [](G&, S& s, int) -> Place { return &s.tableSize; }, tableSize},
 };
 // clang-format on
 

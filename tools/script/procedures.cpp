@@ -29,8 +29,10 @@ struct Plain {
   void (*run)(MainWindow& w);
 };
 
-void layPlayCard(MainWindow& w) { layCard(w, w.state.playCard, Side::Computer); }
-void uncoverPlayCard(MainWindow& w) { w.card(w.state.playCard).uncover(); }
+void layPlayCard(MainWindow& w) { layCard(w, w.state.lastOffer.card, Side::Computer); }
+void uncoverPlayCard(MainWindow& w) { w.card(w.state.lastOffer.card).uncover(); }
+void glidePlayCard(MainWindow& w) { glideCard(w, w.state.lastOffer.card); }
+void openGame(MainWindow& w) { (void)openWithDoubleZero(w); }
 
 /// Called by hand with cards left, which play never does, it hands the turn back to the player.
 void endWithComputersHand(MainWindow& w) {
@@ -43,9 +45,9 @@ void endWithComputersHand(MainWindow& w) {
 constexpr std::array plain{
     Plain{"Form_Load", startGame},
     Plain{"Awal", deal},
-    Plain{"discard00", openWithDoubleZero},
+    Plain{"discard00", openGame},
     Plain{"Cocok", layPlayCard},
-    Plain{"moving", glideCard},
+    Plain{"moving", glidePlayCard},
     Plain{"player_akhir", afterPlayersCard},
     Plain{"computer_akhir", endWithComputersHand},
     Plain{"deadlock", deadlock},

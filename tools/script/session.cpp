@@ -23,6 +23,18 @@ void Session::stackDeck(const std::optional<Deck>& deck) {
   if (program_) window().stackedDeck = deck;
 }
 
+void Session::joinPlayCard() {
+  if (!program_) return;
+  TableState& s = window().state;
+  int& offered = s.lastOffer.card;
+  // They were all the same; the one that differs now is the new one.
+  const int changed = s.choiceCard != offered && s.choiceCard != s.demo.card  ? s.choiceCard
+                      : s.demo.card != offered && s.demo.card != s.choiceCard ? s.demo.card
+                                                                              : offered;
+  offered = s.choiceCard = s.demo.card = window().game.mind.lookedAt.value_or(changed);
+  window().game.mind.lookedAt.reset();
+}
+
 MainWindow& Session::window() {
   if (!program_) throw ScriptError("the program has not started");
   return program_->window();

@@ -20,6 +20,10 @@ class Session {
   /// The deck of every later deal; empty for a shuffled one.
   void stackDeck(const std::optional<Deck>& deck);
 
+  /// Scripts know one `playCard`: the card last offered, asked about, demonstrated or considered by
+  /// the computer. To be called after every command.
+  void joinPlayCard();
+
   // The started program, also after it has ended. Throw ScriptError before the first start.
   [[nodiscard]] MainWindow& window();
   [[nodiscard]] const Names& names();

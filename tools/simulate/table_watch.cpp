@@ -100,7 +100,7 @@ const char* TableWatch::aboutTurn() const {
   if (w_.state.selectedCard >= handSize && w_.state.selectedCard != noSelection) {
     return "the player selects from the player's hand";
   }
-  if (w_.state.choiceOpen && !isForChoice(game, w_.state.playCard)) {
+  if (w_.state.choiceOpen && !isForChoice(game, w_.state.choiceCard)) {
     return "the choice is about a held card that makes the same number";
   }
   if (w_.state.passAwaitsOk && (game.ending.over || !mustPass(game, Side::Player))) {
