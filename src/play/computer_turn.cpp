@@ -65,7 +65,7 @@ void takeComputersTurn(MainWindow& w) {
   }
   layComputersCards(w);
   lookWhetherPlayerCanAnswer(w);
-  closeComputersTurn(w);
+  closeTurn(w);
 }
 
 }  // namespace mevracard

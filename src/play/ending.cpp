@@ -11,8 +11,8 @@ namespace mevracard {
 
 namespace {
 
-/// A lost game is counted here, whoever has decided it.
-/// QUIRK-43: and so is a demonstration that is played to its end. One would expect the
+/// Shows who has won and counts it.
+/// QUIRK-43: also a demonstration that is played to its end. One would expect the
 /// statistics to hold the player's own games alone; the player finds one more there.
 void record(MainWindow& w, GameResult result) {
   w.result.verdict.caption = result == GameResult::Won ? "You win" : "You lose";
@@ -36,7 +36,7 @@ void afterPlayersCard(MainWindow& w) {
     return;
   }
   announce(w, Announcement::ComputersTurn);
-  raiseStatus(w);
+  showStatusInFront(w);
   w.timer.arm(replyDelay);
 }
 

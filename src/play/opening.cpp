@@ -26,14 +26,14 @@ void showDoubleZero(MainWindow& w, int slot) {
 void giveTurnToPlayer(MainWindow& w) {
   announce(w, Announcement::YourTurn);
   appendGeneralTip(w);
-  raiseStatus(w);
+  showStatusInFront(w);
 }
 
 void giveTurnToComputer(MainWindow& w) {
   announce(w, Announcement::ComputersTurn);
   w.state.tutorial.computerWaitsForNext = false;
   w.state.tutorial.nextIsComputers = false;
-  raiseStatus(w);
+  showStatusInFront(w);
   w.state.tipText += openingAnsweredTip();
 }
 

@@ -13,7 +13,7 @@ namespace mevracard {
 
 namespace {
 
-constexpr int replayDelay = 2000;
+constexpr int secondTurnDelay = 2000;
 constexpr int tipsTop = 1000;
 constexpr int tipsGap = 30;
 
@@ -43,6 +43,15 @@ void placeTips(MainWindow& w) {
   w.about.form.top = tipsTop;
 }
 
+/// Nothing but its OK is to be pressed.
+void openPassTip(MainWindow& w) {
+  placeTips(w);
+  showTips(w);
+  w.about.ok.visible = true;
+  w.about.form.giveFocus(w.about.ok);
+  w.form.enabled = false;
+}
+
 }  // namespace
 
 void announceComputersPass(MainWindow& w) {
@@ -55,7 +64,7 @@ void announceComputersPass(MainWindow& w) {
   if (s.tutorial.running) s.tutorial.nextIsComputers = false;
   s.tipText = tipHeading() + computerPassTip(w.game.chain.openNumber[End::RightTop],
                                              w.game.chain.openNumber[End::LeftBottom]);
-  closeComputersTurn(w);
+  closeTurn(w);
 }
 
 void announcePlayersPass(MainWindow& w) {
@@ -66,11 +75,7 @@ void announcePlayersPass(MainWindow& w) {
   s.tipText += playerPassTip(w.game.chain.openNumber[End::RightTop],
                              w.game.chain.openNumber[End::LeftBottom]);
   s.passAwaitsOk = true;
-  placeTips(w);
-  showTips(w);
-  w.about.ok.visible = true;
-  w.about.form.giveFocus(w.about.ok);
-  w.form.enabled = false;
+  openPassTip(w);
 }
 
 void acknowledgePass(MainWindow& w) {
@@ -80,14 +85,14 @@ void acknowledgePass(MainWindow& w) {
   w.form.enabled = true;
   w.status.visible = true;
   w.desktop.hide(w.about.form);
-  w.timer.arm(replayDelay);
+  w.timer.arm(secondTurnDelay);
   announce(w, Announcement::ComputersTurnAgain);
   s.tipText = tipHeading() + replayTip();
   pass(w.game, Side::Player);
-  closeComputersTurn(w);
+  closeTurn(w);
 }
 
-void closeComputersTurn(MainWindow& w) {
+void closeTurn(MainWindow& w) {
   // QUIRK-10: a deadlock that was decided just before is recorded a second time here. One would
   // expect one loss a game; the statistics count two.
   if (w.game.counts.cardsLeft[Side::Computer] == 0) computerHasWon(w);

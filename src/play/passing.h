@@ -13,7 +13,8 @@ void announcePlayersPass(MainWindow& w);
 /// OK of the tips after a pass of the player: the computer moves again after 2000 ms.
 void acknowledgePass(MainWindow& w);
 
-/// Closes every turn of the computer: ends the game if it has no card left, else refreshes the tip.
-void closeComputersTurn(MainWindow& w);
+/// Closes a turn of the computer and the pass of the player: ends the game if it has no card left,
+/// else refreshes the tip.
+void closeTurn(MainWindow& w);
 
 }  // namespace mevracard

@@ -19,7 +19,7 @@ void sendStatusToBack(MainWindow& w) {
   w.form.sendToBack(w.status);
 }
 
-void raiseStatus(MainWindow& w) {
+void showStatusInFront(MainWindow& w) {
   bringStatusToFront(w);
   w.status.visible = true;
 }

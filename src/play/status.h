@@ -10,6 +10,6 @@ void announce(MainWindow& w, Announcement announcement);
 void bringStatusToFront(MainWindow& w);
 void sendStatusToBack(MainWindow& w);
 /// Shows the status line in front.
-void raiseStatus(MainWindow& w);
+void showStatusInFront(MainWindow& w);
 
 }  // namespace mevracard

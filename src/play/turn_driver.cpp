@@ -13,7 +13,7 @@ namespace {
 /// move.
 void takeDemonstrationForOver(MainWindow& w) {
   announce(w, Announcement::YourTurn);
-  raiseStatus(w);
+  showStatusInFront(w);
   w.state.tutorial.computerWaitsForNext = false;
 }
 

@@ -39,7 +39,7 @@ void endWithComputersHand(MainWindow& w) {
   if (w.game.counts.cardsLeft[Side::Computer] == 0) return computerHasWon(w);
   w.game.ending.deadlock = false;
   announce(w, Announcement::YourTurn);
-  raiseStatus(w);
+  showStatusInFront(w);
 }
 
 constexpr std::array plain{
@@ -54,7 +54,7 @@ constexpr std::array plain{
     Plain{"Hitung", showSums},
     Plain{"akhirmain", showResult},
     Plain{"komputer", takeComputersTurn},
-    Plain{"lastmove", closeComputersTurn},
+    Plain{"lastmove", closeTurn},
     Plain{"BukaCover", uncoverPlayCard},
     Plain{"gnr", appendGeneralTip},
     Plain{"MouseMv", aimPointer},
