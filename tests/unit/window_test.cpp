@@ -1,7 +1,6 @@
 // The windows as plain data: their look, the scaling of the table, what stands behind what.
 #include <algorithm>
 #include <cmath>
-#include <filesystem>
 #include <fstream>
 #include <sstream>
 
@@ -116,12 +115,12 @@ TEST(Windows, LookAsDesigned) {
   std::ifstream file(MEVRACARD_LOOK);
   const auto recorded = linesOf(file);
   const auto look = designedLook();
-  std::ofstream now("look.csv");
+  std::ofstream now(MEVRACARD_LOOK_NOW);
   for (const std::string& line : look) now << line << '\n';
   now.close();
   for (std::size_t i = 0; i < std::max(recorded.size(), look.size()); ++i) {
     EXPECT_EQ(i < look.size() ? look[i] : "", i < recorded.size() ? recorded[i] : "")
-        << "if this is meant: cp " << std::filesystem::absolute("look.csv") << " " MEVRACARD_LOOK;
+        << "if this is meant: cp " MEVRACARD_LOOK_NOW " " MEVRACARD_LOOK;
   }
 }
 
