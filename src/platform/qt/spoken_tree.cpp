@@ -32,7 +32,7 @@ const SpokenItem* itemOf(const SpokenList& list, const Box* control) {
 class SpokenCanvas final : public QAccessibleWidget {
  public:
   explicit SpokenCanvas(Canvas& canvas)
-      : QAccessibleWidget(&canvas, QAccessible::LayeredPane), canvas_(canvas) {}
+      : QAccessibleWidget(&canvas, QAccessible::Client), canvas_(canvas) {}
   ~SpokenCanvas() override {
     for (const auto& [key, id] : ids_) QAccessible::deleteAccessibleInterface(id);
   }
@@ -167,10 +167,10 @@ QAccessibleInterface* SpokenCanvas::part(int list, Box* control) const {
   return QAccessible::accessibleInterface(id);
 }
 
-/// A place for news. Of a paragraph a screen reader says nothing but its words, and it counts none.
+/// A place for news. A screen reader says nothing but its words, and counts none.
 class SpokenPlace final : public QAccessibleWidget {
  public:
-  explicit SpokenPlace(NewsPlace& place) : QAccessibleWidget(&place, QAccessible::Paragraph) {}
+  explicit SpokenPlace(NewsPlace& place) : QAccessibleWidget(&place, QAccessible::Client) {}
 
   QAccessible::State state() const override {
     QAccessible::State state = QAccessibleWidget::state();
