@@ -14,6 +14,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QFile>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
@@ -22,6 +23,7 @@
 #include <QWheelEvent>
 #include <QWindow>
 #include <array>
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -105,6 +107,7 @@ class Monkey {
       program.start();
       desktop.afterEvent();
       if (left_ > 0) desktop.run();
+      if (endCame_) checkEnd();
     }
     std::cout << runs << " runs of the program, " << met_.games << " games to their end, "
               << met_.passes << " passes, " << met_.choices << " choices\n";
@@ -154,8 +157,22 @@ class Monkey {
   void endSession() {
     note("the session ends");
     endCame_ = true;
+    recordBefore_ = record();
+    if (oneIn(2)) return (void)std::raise(SIGTERM);
     QEvent quit(QEvent::Quit);
     QCoreApplication::sendEvent(qApp, &quit);
+  }
+
+  /// A game that was under way is lost, once; one that was over is not.
+  void checkEnd() const {
+    if (record() != recordBefore_ && record() != withResult(recordBefore_, GameResult::Lost)) {
+      fail("broken: the session's end is no single loss");
+    }
+  }
+
+  [[nodiscard]] std::string record() const {
+    QFile file(files_ + '/' + statisticsFile.data());
+    return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
   }
 
   void lay() {
@@ -355,6 +372,7 @@ class Monkey {
   Qt::MouseButtons down_;
   bool endCame_ = false;  ///< the session's: the program is to end at once
   int turnsSince_ = 0;    ///< of the event loop
+  std::string recordBefore_;
 };
 
 }  // namespace

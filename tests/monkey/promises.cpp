@@ -84,10 +84,10 @@ void Promises::checkPictures() const {
   }
   w_.present();
   for (std::size_t i = 0; i < windows.size(); ++i) {
-    const auto stale = differentDot(shown[i], afreshDots(*windows[i]));
-    if (!stale) continue;
+    const QRect stale = differentBox(shown[i], afreshDots(*windows[i]));
+    if (stale.isEmpty()) continue;
     fail("broken: \"" + windows[i]->windowTitle().toStdString() + "\" is stale at " +
-         std::to_string(stale->x()) + "," + std::to_string(stale->y()));
+         std::to_string(stale.x()) + "," + std::to_string(stale.y()));
   }
 }
 

@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QTemporaryDir>
 #include <QWidget>
+#include <cstring>
 #include <fstream>
 
 namespace mevracard {
@@ -34,14 +35,17 @@ QImage afreshDots(QWidget& window) {
   return shownDots(window);
 }
 
-std::optional<QPoint> differentDot(const QImage& one, const QImage& other) {
-  if (one == other) return std::nullopt;
+QRect differentBox(const QImage& one, const QImage& other) {
+  if (one.size() != other.size()) return one.rect() | other.rect();
+  const auto length = static_cast<std::size_t>(one.bytesPerLine());
+  QRect box;
   for (int y = 0; y < one.height(); ++y) {
+    if (std::memcmp(one.constScanLine(y), other.constScanLine(y), length) == 0) continue;
     for (int x = 0; x < one.width(); ++x) {
-      if (!other.valid(x, y) || one.pixel(x, y) != other.pixel(x, y)) return QPoint(x, y);
+      if (one.pixel(x, y) != other.pixel(x, y)) box |= QRect(x, y, 1, 1);
     }
   }
-  return QPoint(one.width(), one.height());
+  return box;
 }
 
 }  // namespace mevracard

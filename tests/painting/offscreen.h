@@ -1,9 +1,8 @@
 #pragma once
 
 #include <QImage>
-#include <QPoint>
+#include <QRect>
 #include <QSize>
-#include <optional>
 
 class QWidget;
 
@@ -18,7 +17,7 @@ void useOffscreen(QSize screen);
 /// The same after all of it has been painted anew.
 [[nodiscard]] QImage afreshDots(QWidget& window);
 
-/// The first dot in which two pictures differ.
-[[nodiscard]] std::optional<QPoint> differentDot(const QImage& one, const QImage& other);
+/// The box around all dots in which two pictures differ; none is empty.
+[[nodiscard]] QRect differentBox(const QImage& one, const QImage& other);
 
 }  // namespace mevracard
