@@ -45,6 +45,13 @@ struct Glide {
   Position from, to;
 };
 
+/// What a window beside the main one does not lie on, where the screen has room beside it.
+struct KeptClear {
+  std::vector<const Box*> boxes;  ///< of the main window; only those that are to be seen count
+  /// An open window makes way too if one of them comes to lie under it.
+  bool always = false;
+};
+
 /// A window.
 struct Form {
   std::string_view name;
@@ -63,7 +70,9 @@ struct Form {
   /// Whether the window is to open at `left` and `top` if the screen has room for it there; else
   /// the desktop finds it a place near the middle of the main window.
   bool placed = false;
-  std::vector<const Box*> clearOf;  ///< what it shall not lie on in a place that the desktop finds
+  /// What it shall not lie on in a place that the desktop finds, the weightiest first. A window
+  /// that the player has moved stays where it is.
+  std::vector<KeptClear> clearOf;
   /// What Esc presses on a real desktop: the first of these that is usable. A window beside the
   /// main one is closed if there is none.
   std::vector<Button*> escape;

@@ -149,8 +149,8 @@ Dots Item::bounds() const {
   return place.joined(room.grown(2 * type, type));
 }
 
-Views viewsOf(const Form& form, const Dots& window, double ratio) {
-  const View own = View::plain(ratio);
+Views viewsOf(const Form& form, const Dots& window, double ratio, double growth) {
+  const View own = View::plain(ratio * growth);
   if (form.whole == nullptr) return {own, own, window};
   const View table = View::fitted(*form.whole, window.width, window.height, ratio, form.growth);
   Dots pinned;

@@ -57,7 +57,7 @@ struct Views {
 };
 
 /// `window` is all of it, with `ratio` dots to a pixel.
-[[nodiscard]] Views viewsOf(const Form& form, const Dots& window, double ratio);
+[[nodiscard]] Views viewsOf(const Form& form, const Dots& window, double ratio, double growth = 1);
 
 /// Whether the player presses, types or scrolls there, so that it is more than painted.
 [[nodiscard]] bool isWidget(const Control& control);

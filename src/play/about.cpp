@@ -5,11 +5,11 @@
 namespace mevracard {
 
 void showAbout(MainWindow& w) {
-  w.keepAboutClear();
-  w.desktop.show(w.about.form);
+  w.about.form.placed = false;
   w.about.form.caption = "About this program";
   w.about.heading.caption = creditsLine;
   w.about.tip.visible = false;
+  w.showBeside(w.about.form);
 }
 
 void closeAbout(MainWindow& w) {

@@ -37,7 +37,6 @@ bool turnWasPlain(const MainWindow& w) {
 /// clear of the chain.
 void placeTips(MainWindow& w) {
   const Frame& endCard = w.card(w.game.chain.endCard[End::RightTop].value_or(0)).frame;
-  w.keepAboutClear();
   w.about.form.placed = true;
   w.about.form.left = endCard.left + endCard.width + tipsGap;
   w.about.form.top = tipsTop;
@@ -46,8 +45,8 @@ void placeTips(MainWindow& w) {
 /// Nothing but its OK is to be pressed.
 void openPassTip(MainWindow& w) {
   placeTips(w);
-  showTips(w);
   w.about.ok.visible = true;
+  showTips(w);
   w.about.form.giveFocus(w.about.ok);
   w.form.enabled = false;
 }

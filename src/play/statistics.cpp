@@ -19,7 +19,7 @@ void showStatistics(MainWindow& w) {
 
 void openStatistics(MainWindow& w) {
   w.form.enabled = false;
-  w.desktop.show(w.statistics.form);
+  w.showBeside(w.statistics.form);
   showStatistics(w);
 }
 

@@ -22,16 +22,16 @@ void appendGeneralTip(MainWindow& w) {
 }
 
 void openTips(MainWindow& w) {
-  w.keepAboutClear();
+  w.about.form.placed = false;
   showTips(w);
 }
 
 void showTips(MainWindow& w) {
-  w.desktop.show(w.about.form);
   w.about.form.caption = "Tips of Game";
   w.about.heading.caption = windowHeading;
   w.about.tip.visible = true;
   w.about.tip.caption = w.state.tipText;
+  w.showBeside(w.about.form);
 }
 
 }  // namespace mevracard

@@ -21,13 +21,19 @@ MainWindow::MainWindow(Desktop& d) : desktop(d) {
 
 double MainWindow::scale() const { return scaleOf(state.tableSize, state.screenHeight); }
 
-void MainWindow::keepAboutClear() {
-  Form& window = about.form;
-  window.placed = false;
-  window.clearOf = {&choice.leftBottom, &choice.rightTop, &choice.cancel};
-  for (std::size_t i = 0; i < cardCount; ++i) {
-    if (!game.cards[i].held) window.clearOf.push_back(&cards[i].frame);
+std::vector<KeptClear> MainWindow::whatMatters() const {
+  KeptClear buttons{{&choice.leftBottom, &choice.rightTop, &choice.cancel}, true};
+  KeptClear hand{{}, true}, ends{{}, true}, line{{&status}, true}, chain, computersHand;
+  for (const int slot : allSlots) {
+    const bool isEnd =
+        slot == game.chain.endCard[End::RightTop] || slot == game.chain.endCard[End::LeftBottom];
+    const bool players = slot < handSize;
+    KeptClear& group = !game.cards[static_cast<std::size_t>(slot)].held ? (isEnd ? ends : chain)
+                       : players                                        ? hand
+                                                                        : computersHand;
+    group.boxes.push_back(&cards[static_cast<std::size_t>(slot)].frame);
   }
+  return {buttons, hand, ends, line, chain, computersHand};
 }
 
 void MainWindow::refresh() {
@@ -46,9 +52,16 @@ void MainWindow::refresh() {
   menu.playerLevel2.checked = game.levels.player == 2;
   menu.computerLevel1.checked = game.levels.computer == 1;
   menu.computerLevel2.checked = game.levels.computer == 2;
+  if (about.form.visible) about.form.clearOf = whatMatters();
+  if (statistics.form.visible) statistics.form.clearOf = whatMatters();
   form.settleFocus();
   about.form.settleFocus();
   statistics.form.settleFocus();
+}
+
+void MainWindow::showBeside(Form& beside) {
+  beside.clearOf = whatMatters();
+  desktop.show(beside);
 }
 
 void MainWindow::present() {

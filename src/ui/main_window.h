@@ -49,9 +49,8 @@ struct MainWindow {
   /// The factor between design twips and the table in force.
   [[nodiscard]] double scale() const;
 
-  /// The About window is to open where it hides neither the chain nor the buttons of the choice.
-  void keepAboutClear();
-
+  /// Shows one of the other windows, where it hides nothing that matters.
+  void showBeside(Form& beside);
   /// Copies the state into what shows it, settles the focus and presents the windows.
   void present();
   /// The same without the desktop: what `present` would show.
@@ -71,6 +70,8 @@ struct MainWindow {
 
   /// Presents what a message box will stand before.
   void presentBeforeBox();
+  /// What no other window shall hide, the weightiest first.
+  [[nodiscard]] std::vector<KeptClear> whatMatters() const;
   /// Puts into words what the windows show, and what has happened since the last time.
   void speak();
   /// The same, but a message box is heard next: what has happened is told when it is closed.

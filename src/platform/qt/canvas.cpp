@@ -2,6 +2,7 @@
 
 #include <QMouseEvent>
 #include <QPaintEvent>
+#include <algorithm>
 #include <utility>
 
 #include "platform/qt/look.h"
@@ -18,10 +19,20 @@ Canvas::Canvas(Form& form, ControlEvents& events, QWidget& parent)
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
+double Canvas::growth() const {
+  const double wanted = growthOf(*this);
+  if (form_.whole == nullptr) return wanted;
+  // The panels of the table have room in its smallest window.
+  const QSize smallest = window()->minimumSize();
+  const double most = std::min(double(window()->width()) / smallest.width(),
+                               double(window()->height()) / smallest.height());
+  return std::clamp(most, 1.0, wanted);
+}
+
 Views Canvas::viewsNow() const {
   const double ratio = devicePixelRatioF();
   const QSize size = (QSizeF(this->size()) * ratio).toSize();
-  return viewsOf(form_, {0, 0, size.width(), size.height()}, ratio);
+  return viewsOf(form_, {0, 0, size.width(), size.height()}, ratio, growth());
 }
 
 void Canvas::flush() {
@@ -49,6 +60,8 @@ void Canvas::repaintChanges() {
   }
   widgets_.flush(views_);
 }
+
+int Canvas::heightOfAll() { return widgets_.heightOfAll(viewsNow()); }
 
 QRect Canvas::toPixels(const Dots& dots) const {
   const double ratio = devicePixelRatioF();

@@ -32,6 +32,8 @@ class Canvas final : public QWidget {
   [[nodiscard]] bool isPlayersOwn(const QWidget& widget) const {
     return widgets_.isPlayersOwn(widget);
   }
+  /// How high it has to be, in logical pixels, for its text to be seen at once.
+  [[nodiscard]] int heightOfAll();
   /// Logical pixels from the canvas' corner.
   [[nodiscard]] QPoint toPixels(Position twips) const;
 
@@ -48,6 +50,8 @@ class Canvas final : public QWidget {
   void focusInEvent(QFocusEvent* event) override;
 
  private:
+  /// How many times its design size everything is that is not fitted into the window.
+  [[nodiscard]] double growth() const;
   [[nodiscard]] Views viewsNow() const;
   /// Dots to the logical pixels that they touch.
   [[nodiscard]] QRect toPixels(const Dots& dots) const;

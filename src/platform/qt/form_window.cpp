@@ -8,7 +8,6 @@
 #include <utility>
 
 #include "platform/qt/look.h"
-#include "platform/qt/placing.h"
 #include "platform/view.h"
 
 namespace mevracard {
@@ -58,7 +57,6 @@ FormWindow::FormWindow(Form& form, Deliver deliver, FormWindow* mainWindow)
       voice_(form.speech, *canvas_) {
   setObjectName(toText(form.name));
   setCentralWidget(canvas_);
-  const QSize size = (QSizeF(form.width, form.height) / twipsPerDesignPixel).toSize();
   if (!form.menu.empty()) {
     menu_ = std::make_unique<Menu>(*menuBar(), form.menu, [this](MenuEntry& entry) {
       deliver_({EventKind::Menu, &form_, nullptr, &entry, 0});
@@ -66,9 +64,7 @@ FormWindow::FormWindow(Form& form, Deliver deliver, FormWindow* mainWindow)
   }
   if (mainWindow == nullptr) {
     setMinimumSize(smallestMainWindow);
-    resize(size);
-  } else {
-    setFixedSize(size);
+    resize((QSizeF(form.width, form.height) / twipsPerDesignPixel).toSize());
   }
   timer_.setTimerType(Qt::PreciseTimer);
   connect(&timer_, &QTimer::timeout, this, &FormWindow::tick);
@@ -77,11 +73,10 @@ FormWindow::FormWindow(Form& form, Deliver deliver, FormWindow* mainWindow)
 void FormWindow::flush() {
   flushing_ = true;
   setWindowTitle(toText(form_.caption));
+  if (main_ != nullptr) flushSize();
   const Whereabouts whereabouts{{form_.left, form_.top}, form_.placed};
-  if (std::exchange(flushedWhereabouts_, whereabouts) != whereabouts && main_ != nullptr &&
-      isVisible()) {
-    moveToItsPlace();
-  }
+  const bool elsewhere = std::exchange(flushedWhereabouts_, whereabouts) != whereabouts;
+  if (main_ != nullptr && isVisible()) elsewhere ? moveToItsPlace() : makeWay();
   if (menu_ != nullptr) {
     menu_->flush();
     menuBar()->setEnabled(form_.enabled);
@@ -133,23 +128,63 @@ void FormWindow::open() {
   activateWindow();
 }
 
+QSize FormWindow::frame() const {
+  // Before it is shown its frame is unknown, but not unlike the main window's.
+  const FormWindow& window = isVisible() ? *this : *main_;
+  return window.frameGeometry().size() - window.size();
+}
+
+void FormWindow::flushSize() {
+  const double pixels = growthOf(*main_) / twipsPerDesignPixel;
+  const QSize design = (QSizeF(form_.width, form_.height) * pixels).toSize();
+  const int most = main_->screen()->availableGeometry().height() - frame().height();
+  const int height = std::max(design.height(), std::min(most, canvas_->heightOfAll()));
+  if (size() != QSize(design.width(), height)) setFixedSize(design.width(), height);
+}
+
+ClearGroups FormWindow::clearGroups(bool always) const {
+  constexpr int gap = 6;  // pixels
+  ClearGroups groups;
+  for (const KeptClear& kept : form_.clearOf) {
+    if (always && !kept.always) continue;
+    groups.emplace_back();
+    for (const Box* box : kept.boxes) {
+      if (box->visible) groups.back().push_back(toDots(main_->placeOnScreen(*box)).grown(gap));
+    }
+  }
+  return groups;
+}
+
 void FormWindow::moveToItsPlace() {
   const Canvas& table = *main_->canvas_;
-  const QRect room = main_->screen()->availableGeometry();
-  // Before it is shown its frame is unknown, but not unlike the main window's.
-  const QSize around = main_->frameGeometry().size() - main_->size();
-  const QSize whole = isVisible() ? frameGeometry().size() : size() + around;
+  const Dots room = toDots(main_->screen()->availableGeometry());
+  const QSize whole = size() + frame();
   const QPoint wanted = table.mapToGlobal(table.toPixels(Position{form_.left, form_.top}));
-  if (form_.placed && placeInside(whole, room, wanted) == wanted) {
-    move(wanted);
-    return;
+  if (const Dots place = toDots({wanted, whole});
+      form_.placed && placeInside(place, room) == place) {
+    return moveTo(place);
   }
-  std::vector<QRect> clear;
-  constexpr int gap = 6;  // pixels
-  for (const Box* box : form_.clearOf) {
-    clear.push_back(main_->placeOnScreen(*box).adjusted(-gap, -gap, gap, gap));
-  }
-  move(clearPlace(whole, room, areaOf(*main_), clear));
+  QRect middle(QPoint(), whole);
+  middle.moveCenter(areaOf(*main_).center());
+  moveTo(clearPlace(toDots(middle), room, clearGroups(false)));
+}
+
+void FormWindow::makeWay() {
+  const QRect now = frameGeometry();
+  const bool movedByPlayer = (now.topLeft() - movedTo_).manhattanLength() > frame().height();
+  if (form_.placed || movedByPlayer) return;
+  const Dots room = toDots(main_->screen()->availableGeometry());
+  const ClearGroups musts = clearGroups(true);
+  const std::vector<long> covered = coveredBy(toDots(now), musts);
+  const bool fits = room.holds(toDots(now));
+  if (fits && covered == std::vector<long>(musts.size())) return;
+  const Dots better = clearPlace(toDots(now), room, clearGroups(false));
+  if (!fits || coveredBy(better, musts) < covered) moveTo(better);
+}
+
+void FormWindow::moveTo(const Dots& place) {
+  movedTo_ = {place.left, place.top};
+  move(movedTo_);
 }
 
 QRect FormWindow::placeOnScreen(const Box& control) const {

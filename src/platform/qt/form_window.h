@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "platform/event.h"
+#include "platform/placing.h"
 #include "platform/qt/canvas.h"
 #include "platform/qt/menu.h"
 #include "platform/qt/voice.h"
@@ -44,7 +45,16 @@ class FormWindow final : public QMainWindow, private ControlEvents {
   void send(EventKind kind, Control& control, int value) override;
   void focusMoved(Control& control, Qt::FocusReason reason) override;
 
+  /// As large as its form says, or higher where its text needs that and the screen has room.
+  void flushSize();
+  /// How much larger it is with what the window system draws around it.
+  [[nodiscard]] QSize frame() const;
   void moveToItsPlace();
+  /// Moves off what it must not lie on.
+  void makeWay();
+  void moveTo(const Dots& place);
+  /// The groups of what it is to lie clear of; those alone that it must always be clear of.
+  [[nodiscard]] ClearGroups clearGroups(bool always) const;
   /// Gives the keyboard to a window in front that takes events.
   void passKeyboardOn();
   void flushTimer();
@@ -68,6 +78,7 @@ class FormWindow final : public QMainWindow, private ControlEvents {
   bool flushing_ = false;
   Control* flushedFocus_ = nullptr;
   Whereabouts flushedWhereabouts_;
+  QPoint movedTo_;  ///< where the program put it; the player may have moved it since
 };
 
 }  // namespace mevracard

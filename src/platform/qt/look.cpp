@@ -42,6 +42,8 @@ QColor toColor(Color color) { return {color.red, color.green, color.blue}; }
 
 QRect toRect(const Dots& dots) { return {dots.left, dots.top, dots.width, dots.height}; }
 
+Dots toDots(const QRect& rect) { return {rect.x(), rect.y(), rect.width(), rect.height()}; }
+
 QFont toFont(const Font& font, double dotsPerPixel) {
   constexpr double pixelsPerPoint = 96.0 / 72.0;
   // Rather a little larger than smaller: small digits are hard to read, and captions that do not

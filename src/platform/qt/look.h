@@ -16,6 +16,7 @@ namespace mevracard {
 
 [[nodiscard]] QColor toColor(Color color);
 [[nodiscard]] QRect toRect(const Dots& dots);
+[[nodiscard]] Dots toDots(const QRect& rect);
 /// The font in whole dots, where a pixel at 96 dots per inch is this many of them.
 [[nodiscard]] QFont toFont(const Font& font, double dotsPerPixel);
 /// Text with line ends as the toolkit wants them.

@@ -10,9 +10,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/placing.h"
 #include "platform/qt/look.h"
 #include "platform/qt/paint.h"
-#include "platform/qt/placing.h"
 
 namespace mevracard {
 
@@ -123,8 +123,9 @@ int MessageBox::grown(int pixels) const { return static_cast<int>(pixels * growt
 void MessageBox::waitAt(QPoint middle) {
   adjustSize();
   if (parentWidget() != nullptr) {
-    const QRect room = screen()->availableGeometry();
-    move(placeInside(size() + windowFrame, room, middle - rect().center()));
+    const QRect wanted(middle - rect().center(), size() + windowFrame);
+    const Dots place = placeInside(toDots(wanted), toDots(screen()->availableGeometry()));
+    move(place.left, place.top);
   }
   exec();
 }

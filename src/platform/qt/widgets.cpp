@@ -1,10 +1,13 @@
 #include "platform/qt/widgets.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QTextBlock>
 #include <QTextDocument>
 #include <QTextFrame>
 #include <QTimer>
+#include <cmath>
 
 #include "platform/qt/look.h"
 #include "platform/qt/paint.h"
@@ -13,8 +16,8 @@ namespace mevracard {
 
 namespace {
 
-constexpr int largestText = 17, smallestText = 13;  // pixels
-constexpr int textMargin = 2;
+constexpr Font textType{"MS Sans Serif", 12};
+constexpr int textMargin = 2;  // pixels
 
 bool isShown(const Control& control) { return control.visible && isWidget(control); }
 
@@ -22,36 +25,40 @@ bool isText(const Control& control) {
   return control.kind == ControlKind::Label && static_cast<const Label&>(control).scrolls;
 }
 
-/// A text that does not fit has grown at its end, and there stands what is new. The first line that
-/// is seen is whole.
-void scrollToNews(QTextEdit& widget) {
-  QScrollBar& bar = *widget.verticalScrollBar();
-  const int line = QFontMetrics(widget.font()).lineSpacing();
-  bar.setSingleStep(line);
-  if (const int cut = (bar.maximum() - textMargin) % line; bar.maximum() > 0 && cut > 0) {
-    QTextFrame& text = *widget.document()->rootFrame();
-    QTextFrameFormat format = text.frameFormat();
-    format.setBottomMargin(format.bottomMargin() + line - cut);
-    text.setFrameFormat(format);
-  }
-  bar.setValue(bar.maximum());
-}
-
-void flushText(QTextEdit& widget, const QString& text, const QRect& place) {
-  if (widget.toPlainText() == text && widget.geometry() == place) return;
-  widget.setGeometry(place);
+/// The height of a text in a room of this width.
+int heightOf(const QString& text, const QFont& font, int width) {
   QTextDocument trial(text);
   trial.setDocumentMargin(textMargin);
-  QFont font = widget.font();
-  for (int size = largestText; size >= smallestText; --size) {
-    font.setPixelSize(size);
-    trial.setDefaultFont(font);
-    trial.setTextWidth(place.width());
-    if (trial.size().height() <= place.height()) break;
+  trial.setDefaultFont(font);
+  trial.setTextWidth(width);
+  return static_cast<int>(std::ceil(trial.size().height()));
+}
+
+/// A text that is too long for its room has grown at its end: the last paragraph, and there stands
+/// what is new, begins at the top of the room.
+void scrollToNews(QTextEdit& widget) {
+  QScrollBar& bar = *widget.verticalScrollBar();
+  bar.setSingleStep(QFontMetrics(widget.font()).lineSpacing());
+  if (bar.maximum() == 0) return;
+  const QTextDocument& document = *widget.document();
+  const double top = document.documentLayout()->blockBoundingRect(document.lastBlock()).top();
+  const int start = static_cast<int>(top);
+  if (const int missing = start - bar.maximum(); missing > 0) {
+    QTextFrame& text = *document.rootFrame();
+    QTextFrameFormat format = text.frameFormat();
+    format.setBottomMargin(format.bottomMargin() + missing);
+    text.setFrameFormat(format);
   }
+  bar.setValue(start);
+}
+
+void flushText(QTextEdit& widget, const QString& text, const QFont& font, const QRect& place) {
+  if (widget.toPlainText() == text && widget.geometry() == place && widget.font() == font) return;
+  widget.setGeometry(place);
   widget.setFont(font);
   widget.setPlainText(text);
-  widget.moveCursor(QTextCursor::End);  // which is brought into view when it is first shown
+  // The cursor is brought into view when the text is first shown.
+  widget.setTextCursor(QTextCursor(widget.document()->lastBlock()));
   scrollToNews(widget);
   // A text that is about to be shown gets its layout only then.
   if (!widget.isVisible()) QTimer::singleShot(0, &widget, [&widget] { scrollToNews(widget); });
@@ -84,11 +91,30 @@ void Widgets::flush(const Views& views) {
   }
 }
 
+int Widgets::heightOfAll(const Views& views) {
+  views_ = views;
+  const QRect window = canvas_.rect();
+  for (const Control* control : form_.controls) {
+    if (!isText(*control) || !control->visible) continue;
+    const auto& text = static_cast<const Label&>(*control);
+    const QRect place = placeOf(text);
+    return window.height() - place.height() +
+           heightOf(toText(text.caption), toFont(textType, growth()), place.width());
+  }
+  return 0;
+}
+
+double Widgets::growth() const { return views_.pinned.length(1) / canvas_.devicePixelRatioF(); }
+
 void Widgets::flush(QWidget& widget, const Control& control) {
   const QRect place = placeOf(static_cast<const Box&>(control));
   if (auto* text = qobject_cast<QTextEdit*>(&widget)) {
-    flushText(*text, toText(static_cast<const Label&>(control).caption), place);
+    const QString caption = toText(static_cast<const Label&>(control).caption);
+    flushText(*text, caption, toFont(textType, growth()), place);
     return;
+  }
+  if (control.kind == ControlKind::Label) {
+    widget.setFont(toFont(static_cast<const Label&>(control).font, growth()));
   }
   widget.setGeometry(place);
   if (control.kind == ControlKind::ScrollBar) {
@@ -114,8 +140,8 @@ QRect Widgets::placeOf(const Box& box) const {
     place.setSize(size.expandedTo(smallestSize(static_cast<const Button&>(box))));
     place.moveCenter(middle);
   }
-  // A text has the room down to the window's lower edge. A button that would stand on it stands at
-  // its lower end instead, and the text ends above.
+  // A text has the room down to the window's lower edge. A button that would stand on it keeps its
+  // distance from there instead, and the text ends above.
   if (isText(box)) place.setBottom(canvas_.height() - textMargin);
   for (const Control* other : form_.controls) {
     if (!isShown(*other) || isText(*other) == isText(box)) continue;
@@ -124,7 +150,8 @@ QRect Widgets::placeOf(const Box& box) const {
     if (isText(box)) {
       place.setBottom(placeOf(static_cast<const Box&>(*other)).top() - textMargin);
     } else {
-      place.moveBottom(static_cast<int>(theirs.bottom() / ratio));
+      const int below = static_cast<int>(views_.pinned.y(form_.height)) - theirs.bottom();
+      place.moveBottom(canvas_.height() - static_cast<int>(below / ratio));
     }
   }
   return place;
@@ -168,14 +195,12 @@ QWidget* Widgets::makeText(const Label& label) {
   colors.setColor(QPalette::Base, toColor(label.backColor));
   colors.setColor(QPalette::Text, toColor(label.foreColor));
   text->setPalette(colors);
-  text->setFont(toFont(label.font, 1));
   return text;
 }
 
 void Widgets::makeLink(QPushButton& link, const Label& label) {
   link.setFlat(true);
   link.setCursor(Qt::PointingHandCursor);
-  link.setFont(toFont(label.font, 1));
   link.setStyleSheet(QString("text-align: left; border: none; padding-left: 2px; color: %1")
                          .arg(toColor(label.foreColor).name()));
 }

@@ -18,6 +18,9 @@ class Widgets final : public QObject {
 
   /// Brings them up to date; reports nothing.
   void flush(const Views& views);
+  /// How high the canvas has to be, in logical pixels, for its text to be seen at once; 0 without
+  /// a text.
+  [[nodiscard]] int heightOfAll(const Views& views);
   /// Null for a control that is none, or that was never seen.
   [[nodiscard]] QWidget* of(const Control& control) const;
   /// Whether it is the widget of a control that never has the form's focus.
@@ -33,6 +36,8 @@ class Widgets final : public QObject {
   static void makeLink(QPushButton& link, const Label& label);
   void flush(QWidget& widget, const Control& control);
   [[nodiscard]] QRect placeOf(const Box& box) const;
+  /// How many times its design size a small window is.
+  [[nodiscard]] double growth() const;
 
   const Form& form_;
   ControlEvents& events_;
