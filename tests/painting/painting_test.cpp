@@ -98,6 +98,11 @@ class Alone {
       const QImage shown = look();
       expectInPlace(*control, before, shown);
       if (isFrame) check(static_cast<Frame*>(control)->children, shown);
+      if (control->kind != ControlKind::Line) {
+        static_cast<Box*>(control)->left += 900;
+        look();
+        static_cast<Box*>(control)->left -= 900;
+      }
       control->visible = false;
       EXPECT_EQ(differentBox(before, table_.shown(form_)), QRect());
     }
@@ -127,6 +132,7 @@ class Alone {
   /// and a button keeps its size for a caption that can be read.
   static int room(const Control& control, const QRect& box, double ratio) {
     if (control.kind == ControlKind::Frame) return box.width() / 6 + 2;
+    if (control.parent != nullptr) return int(2 * ratio);
     return int((control.kind == ControlKind::Button ? 10 : 4) * ratio);
   }
 
@@ -189,6 +195,22 @@ TEST(Painting, ShowsTheNumbersOfTheCards) {
     pictures[number] = picture;
   }
   EXPECT_EQ(pictures.size(), 7U);
+}
+
+// Of two cards the one that comes to the front must be seen, and cover the other one.
+TEST(Painting, ShowsWhatComesToTheFront) {
+  Table table;
+  Form& form = table.w.form;
+  Frame& one = table.w.card(0).frame;
+  Frame& other = table.w.card(1).frame;
+  other.left = one.left + 150;
+  for (Frame* front : {&one, &other, &one}) {
+    const QImage before = table.shown(form);
+    form.bringToFront(*front);
+    const QImage shown = table.shown(form);
+    EXPECT_NE(differentBox(shown, before), QRect());
+    EXPECT_EQ(differentBox(shown, table.afresh(form)), QRect());
+  }
 }
 
 // Step by step down to the smallest table and back everything must stand where it stood.
