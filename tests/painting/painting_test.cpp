@@ -1,6 +1,7 @@
 // What the real windows paint, without a display; the ratio of dots to pixels comes from outside.
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QMenuBar>
 #include <QScrollBar>
 #include <algorithm>
 #include <set>
@@ -10,7 +11,6 @@
 #include "painting/offscreen.h"
 #include "painting/table.h"
 #include "platform/qt/look.h"
-#include "platform/qt/menu.h"
 
 namespace mevracard {
 namespace {
@@ -110,7 +110,7 @@ class Alone {
 
   /// What is seen, which is the same when it is painted anew.
   QImage look() {
-    const QImage shown = table_.shown(form_);
+    QImage shown = table_.shown(form_);
     EXPECT_EQ(differentBox(shown, table_.afresh(form_)), QRect());
     return shown;
   }
@@ -280,17 +280,17 @@ TEST(Window, IsLeftWithEscape) {
   EXPECT_FALSE(w.state.sizePanelOpen);
 }
 
-// The check mark follows the data, also where the game does not take a choice.
+// The check mark follows the data: those of the file, a choice, and one that changes nothing.
 TEST(Menu, MarksWhatTheDataSay) {
-  MenuEntry one{"one", "One"};
-  MenuEntry two{"two", "Two"};
-  one.checked = true;
-  QMenuBar bar;
-  Menu menu(bar, {&one, &two}, [](MenuEntry& /*chosen*/) {});
-  menu.flush();
-  bar.actions()[1]->trigger();
-  EXPECT_TRUE(bar.actions()[0]->isChecked());
-  EXPECT_FALSE(bar.actions()[1]->isChecked());
+  Table table("1/2/99");
+  const QMenuBar& bar = *table.windowOf(table.w.form).menuBar();
+  const auto levels = bar.actions()[0]->menu()->actions()[1]->menu()->actions();
+  for (const int chosen : {1, 0, 0}) {
+    if (chosen == 0) levels[0]->trigger();
+    EXPECT_EQ(levels[0]->isChecked(), chosen == 0);
+    EXPECT_EQ(levels[1]->isChecked(), chosen == 1);
+    EXPECT_EQ(table.w.menu.computerLevel2.checked, chosen == 1);
+  }
 }
 
 }  // namespace

@@ -1,39 +1,14 @@
 // The pure rules of a game: dealing, and the count at the end.
 #include "game/deal.h"
 
-#include <algorithm>
 #include <set>
 
 #include <gtest/gtest.h>
 
 #include "game/scoring.h"
-#include "platform/seeded_random.h"
 
 namespace mevracard {
 namespace {
-
-// A wrong bound in the shuffle shows as a lost or doubled pair, or as a pair that stays in its slot
-// (QUIRK-03): then the permutation is no single cycle.
-TEST(Deal, ShufflesAllPairsInOneSingleCycle) {
-  std::vector<std::pair<int, int>> set;
-  for (int x = 0; x <= 6; ++x) {
-    for (int y = x; y <= 6; ++y) set.emplace_back(x, y);
-  }
-  SeededRandom random;
-  for (int round = 0; round < 500; ++round) {
-    random.seed(round);
-    const Deck deck = shuffledDeck([&] { return random.next(); });
-    EXPECT_EQ(std::set(deck.begin(), deck.end()), std::set(set.begin(), set.end()));
-    std::size_t slot = 0;
-    std::size_t length = 0;
-    do {
-      const auto found = std::find(deck.begin(), deck.end(), set[slot]);
-      slot = static_cast<std::size_t>(found - deck.begin());
-      ++length;
-    } while (slot != 0 && length <= cardCount);
-    ASSERT_EQ(length, static_cast<std::size_t>(cardCount));
-  }
-}
 
 // The extreme draws must stay inside the set: 0 and the largest number below 1.
 TEST(Deal, TakesTheExtremeDraws) {
