@@ -1,6 +1,7 @@
 #include "platform/qt/spoken_tree.h"
 
 #include <QAccessibleWidget>
+#include <QApplication>
 #include <QMainWindow>
 #include <QTimer>
 #include <algorithm>
@@ -39,6 +40,9 @@ class SpokenCanvas final : public QAccessibleWidget {
 
   [[nodiscard]] Canvas& canvas() const { return canvas_; }
   [[nodiscard]] const std::vector<SpokenList>& lists() const { return canvas_.speech().lists; }
+  [[nodiscard]] bool takesEvents() const {
+    return canvas_.isEnabled() && QApplication::activeModalWidget() == nullptr;
+  }
   /// The part for a list, or for an item of it. Made when it is first asked for, and kept:
   /// assistive technology knows it from then on.
   QAccessibleInterface* part(int list, Box* control = nullptr) const;
@@ -85,7 +89,8 @@ class Part final : public QAccessibleInterface, public QAccessibleActionInterfac
   Part(const SpokenCanvas& whole, int list, Box* control)
       : whole_(whole), index_(static_cast<std::size_t>(list)), control_(control) {}
 
-  bool isValid() const override { return control_ == nullptr || item() != nullptr; }
+  /// Also when the item has gone: who asks for it then is told that it is not seen.
+  bool isValid() const override { return true; }
   QObject* object() const override { return nullptr; }
   QWindow* window() const override { return whole_.window(); }
   QAccessible::Role role() const override {
@@ -93,8 +98,8 @@ class Part final : public QAccessibleInterface, public QAccessibleActionInterfac
   }
   QAccessible::State state() const override {
     QAccessible::State state;
-    state.invisible = !isValid() || !whole_.canvas().isVisible();
-    state.disabled = !whole_.canvas().isEnabled();
+    state.invisible = hasGone() || !whole_.canvas().isVisible();
+    state.disabled = !whole_.takesEvents();
     state.selectable = answersPress();
     state.selected = control_ != nullptr && item() != nullptr && item()->selected;
     return state;
@@ -130,7 +135,7 @@ class Part final : public QAccessibleInterface, public QAccessibleActionInterfac
 
   void setText(QAccessible::Text /*kind*/, const QString& /*text*/) override {}
   QString text(QAccessible::Text kind) const override {
-    if (kind != QAccessible::Name || !isValid()) return {};
+    if (kind != QAccessible::Name || hasGone()) return {};
     return toText(control_ == nullptr ? list().words : item()->words);
   }
 
@@ -152,8 +157,9 @@ class Part final : public QAccessibleInterface, public QAccessibleActionInterfac
  private:
   [[nodiscard]] const SpokenList& list() const { return whole_.lists().at(index_); }
   [[nodiscard]] const SpokenItem* item() const { return itemOf(list(), control_); }
+  [[nodiscard]] bool hasGone() const { return control_ != nullptr && item() == nullptr; }
   [[nodiscard]] bool answersPress() const {
-    return control_ != nullptr && item() != nullptr && item()->answersPress;
+    return whole_.takesEvents() && control_ != nullptr && !hasGone() && item()->answersPress;
   }
 
   const SpokenCanvas& whole_;
@@ -175,6 +181,7 @@ class SpokenPlace final : public QAccessibleWidget {
   QAccessible::State state() const override {
     QAccessible::State state = QAccessibleWidget::state();
     state.focusable = true;
+    if (QApplication::activePopupWidget() != nullptr) state.focused = false;  // a menu has it
     if (widget()->parentWidget()->focusProxy() != widget()) state.invisible = true;
     return state;
   }
@@ -187,6 +194,23 @@ QAccessibleInterface* makeTree(const QString& /*type*/, QObject* object) {
   auto* window = qobject_cast<QMainWindow*>(object);
   const bool dialog = window != nullptr && window->windowType() == Qt::Dialog;
   return dialog ? new QAccessibleWidget(window, QAccessible::Dialog) : nullptr;
+}
+
+void passOn(QAccessibleEvent* event);
+
+void report(QAccessibleEvent& event) {
+  QAccessible::installUpdateHandler(nullptr);
+  QAccessible::updateAccessibility(&event);
+  QAccessible::installUpdateHandler(passOn);
+}
+
+/// The toolkit reports the keyboard before it is known what is to be said where it is.
+void passOn(QAccessibleEvent* event) {
+  const QObject* part = event->object();
+  const bool early =
+      event->type() == QAccessible::Focus && (dynamic_cast<const NewsPlace*>(part) != nullptr ||
+                                              dynamic_cast<const Canvas*>(part) != nullptr);
+  if (!early) report(*event);
 }
 
 using Known = std::vector<Box*>;
@@ -241,7 +265,15 @@ NewsPlace::NewsPlace(QWidget& canvas) : QWidget(&canvas) {
   show();
 }
 
-void installSpokenTrees() { QAccessible::installFactory(makeTree); }
+void installSpokenTrees() {
+  QAccessible::installFactory(makeTree);
+  QAccessible::installUpdateHandler(passOn);
+}
+
+void reportFocus(QWidget& part) {
+  QAccessibleEvent event(&part, QAccessible::Focus);
+  report(event);
+}
 
 void reportChanges(const std::vector<SpokenList>& before, const std::vector<SpokenList>& now,
                    QWidget& canvas) {

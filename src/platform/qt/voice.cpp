@@ -1,8 +1,8 @@
 #include "platform/qt/voice.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QFocusEvent>
-#include <QScrollBar>
 #include <QTimer>
 #include <utility>
 
@@ -16,7 +16,9 @@ bool isMenuOpen() { return QApplication::activePopupWidget() != nullptr; }
 
 }  // namespace
 
-Voice::Voice(Speech& speech, QWidget& canvas) : speech_(speech), canvas_(canvas) {}
+Voice::Voice(Speech& speech, QWidget& canvas) : speech_(speech), canvas_(canvas) {
+  canvas.installEventFilter(this);
+}
 
 void Voice::flush(QWidget& keyboard) {
   keyboard_ = &keyboard;
@@ -27,25 +29,8 @@ void Voice::flush(QWidget& keyboard) {
   if (QAccessible::isActive() || told_.empty()) told_ = speech_.lists;
   waiting_ = waiting_ && speech_.unsaid;
   if (speech_.unsaid) writeNews();
-  if (!isMenuOpen()) moveKeyboard();
-}
-
-void Voice::moveKeyboard() {
-  // A scroll bar tells its number itself, unless the news that tells it has come after it.
-  const bool tellsNumber = qobject_cast<QScrollBar*>(keyboard_) != nullptr;
-  if (!waiting_ || tellsNumber) keyboard_->setFocus(Qt::OtherFocusReason);
-  if (!waiting_) return;
-  if (tellsNumber && keyboard_->hasFocus()) {
-    reportFocus();
-  } else {
-    places_[0]->setFocus();
-  }
-}
-
-void Voice::reportFocus() {
-  QAccessibleEvent event(places_[0], QAccessible::Focus);
-  QAccessible::updateAccessibility(&event);
-  said();
+  if (!isMenuOpen()) keyboard.setFocus(Qt::OtherFocusReason);
+  if (waiting_) speakSoon();
 }
 
 void Voice::makePlaces() {
@@ -74,28 +59,40 @@ void Voice::writeNews() {
   places_[0]->setFocusPolicy(canvas_.focusPolicy());
 }
 
-void Voice::said() {
-  waiting_ = false;
-  speech_.unsaid = false;
-}
-
 bool Voice::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == places_[0] && event->type() == QEvent::FocusIn) {
+  if (watched == &canvas_) {
+    if (event->type() == QEvent::WindowActivate) speakSoon();
+    if (event->type() == QEvent::WindowDeactivate) newsFollows_ = isBehindAnother();
+  } else if (watched == places_[0] && event->type() == QEvent::FocusIn) {
     keyboardCame(static_cast<QFocusEvent&>(*event));
   }
   return QObject::eventFilter(watched, event);
 }
 
 void Voice::keyboardCame(QFocusEvent& focusIn) {
-  const bool byPopup = focusIn.reason() == Qt::PopupFocusReason;
-  if (!waiting_ && !byPopup) places_[0]->setAccessibleName(toText(speech_.line));
-  if (waiting_ && byPopup) reportFocus();
-  if (waiting_) said();
-  // The toolkit has yet to report that the keyboard is here.
-  QTimer::singleShot(0, this, [this] {
-    if (keyboard_ != nullptr && !isMenuOpen()) keyboard_->setFocus(Qt::OtherFocusReason);
-  });
+  lineDue_ = !newsFollows_ || focusIn.reason() != Qt::ActiveWindowFocusReason;
+  speakSoon();
   QCoreApplication::sendEvent(&canvas_, &focusIn);
+}
+
+void Voice::speakSoon() {
+  QTimer::singleShot(0, this, [this] { speak(); });
+}
+
+bool Voice::isBehindAnother() const {
+  return !canvas_.isEnabled() || QApplication::activeModalWidget() != nullptr;
+}
+
+void Voice::speak() {
+  const bool lineDue = std::exchange(lineDue_, false) && places_[0]->hasFocus();
+  const bool hasTheWord = canvas_.isActiveWindow() && !isMenuOpen() && !isBehindAnother();
+  if ((!waiting_ && !lineDue) || !hasTheWord) return;
+  if (!waiting_) places_[0]->setAccessibleName(toText(speech_.line));
+  reportFocus(*places_[0]);
+  // A scroll bar would tell its number after the news that tells it.
+  const bool atButton = qobject_cast<QAbstractButton*>(keyboard_) != nullptr;
+  if (atButton && keyboard_->hasFocus()) reportFocus(*keyboard_);
+  if (std::exchange(waiting_, false)) speech_.unsaid = false;
 }
 
 }  // namespace mevracard

@@ -10,8 +10,8 @@ namespace mevracard {
 
 /// Hands a window's speech on to assistive technology. What is asked for stands in the accessible
 /// tree below the canvas. A screen reader says what the keyboard comes to, and nothing that changes
-/// where it is: so the news stands in turn at two places that nobody sees, and the keyboard goes
-/// there; where a widget has it, it comes back at once.
+/// where it is: so the news stands in turn at two places that nobody sees. They have the keyboard
+/// for the canvas; where a widget has it, it is reported at the place, and back at the widget.
 class Voice final : public QObject {
  public:
   Voice(Speech& speech, QWidget& canvas);
@@ -20,22 +20,25 @@ class Voice final : public QObject {
   void flush(QWidget& keyboard);
 
  protected:
-  /// The news is said when the keyboard comes to its place: at once, or along with the window.
+  /// The keyboard comes to the window, or to the place of the news.
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void makePlaces();
   void writeNews();
-  void moveKeyboard();
-  void reportFocus();
-  void said();
   void keyboardCame(QFocusEvent& focusIn);
+  /// Speaks when all is done that is at hand: a handler may have more news, or open a window.
+  void speakSoon();
+  void speak();
+  [[nodiscard]] bool isBehindAnother() const;
 
   Speech& speech_;
   QWidget& canvas_;
   std::vector<SpokenList> told_;
   std::array<NewsPlace*, 2> places_{};  ///< the first takes the keyboard for the canvas
-  bool waiting_ = false;                ///< for the keyboard: the news is written, and not said
+  bool waiting_ = false;                ///< the news is written, and not said
+  bool lineDue_ = false;                ///< the keyboard came back to where the news was
+  bool newsFollows_ = true;             ///< it was away at a window of the game, or never here
   QPointer<QWidget> keyboard_;
 };
 
