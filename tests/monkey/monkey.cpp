@@ -150,6 +150,7 @@ class Monkey {
     if (lot < 70) return typeKey();
     if (lot < 90) return wait();
     if (lot < 98) return useWindow();
+    if (endCame_) return;  // what it has recorded is still to be read
     if (lot < 99 || !oneIn(4)) return tearFile();
     endSession();
   }

@@ -75,6 +75,7 @@ void Promises::checkWindows() const {
 }
 
 void Promises::checkPictures() const {
+  w_.present();  // the keyboard may still be on its way back to a button from what was said
   std::vector<QWidget*> windows;
   std::vector<QImage> shown;
   for (QWidget* top : QApplication::topLevelWidgets()) {
@@ -82,7 +83,6 @@ void Promises::checkPictures() const {
     windows.push_back(top);
     shown.push_back(shownDots(*top));
   }
-  w_.present();
   for (std::size_t i = 0; i < windows.size(); ++i) {
     const QRect stale = differentBox(shown[i], afreshDots(*windows[i]));
     if (stale.isEmpty()) continue;
