@@ -173,7 +173,8 @@ class Monkey {
 
   [[nodiscard]] std::string record() const {
     QFile file(files_ + '/' + statisticsFile.data());
-    return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
+    // At a first start it is not there yet.
+    return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : emptyStatisticsText();
   }
 
   void lay() {
