@@ -19,6 +19,7 @@ void showStatistics(MainWindow& w) {
 
 void openStatistics(MainWindow& w) {
   w.form.enabled = false;
+  w.statistics.form.giveFocus(w.statistics.ok);
   w.showBeside(w.statistics.form);
   showStatistics(w);
 }

@@ -3,7 +3,9 @@
 #include <QActionGroup>
 #include <QApplication>
 #include <QMenu>
+#include <QPointer>
 #include <QShortcut>
+#include <QTimer>
 #include <algorithm>
 #include <utility>
 
@@ -13,14 +15,50 @@ namespace mevracard {
 
 namespace {
 
+/// Has the keyboard at the menu bar until the player leaves it.
+class KeyboardLoan final : public QObject {
+ public:
+  explicit KeyboardLoan(QMenuBar& bar) : QObject(&bar), owner_(QApplication::focusWidget()) {
+    bar.installEventFilter(this);
+    bar.setFocus(Qt::MenuBarFocusReason);
+  }
+
+ protected:
+  /// A bar of which an entry is left is painted anew, and reports nothing else.
+  bool eventFilter(QObject* bar, QEvent* event) override {
+    if (event->type() == QEvent::Paint && !isMenuInUse()) {
+      bar->removeEventFilter(this);
+      QTimer::singleShot(0, this, [this] { giveBack(); });
+    }
+    return false;
+  }
+
+ private:
+  void giveBack() {
+    const bool stillHere = QApplication::focusWidget() == parent();
+    if (stillHere && owner_ != nullptr) owner_->setFocus(Qt::MenuBarFocusReason);
+    deleteLater();
+  }
+
+  QPointer<QWidget> owner_;
+};
+
 void openFirst(QMenuBar& bar) {
   const QList<QAction*> menus = bar.actions();
   const auto first = std::find_if(menus.begin(), menus.end(),
                                   [](const QAction* menu) { return menu->isEnabled(); });
-  if (first != menus.end()) bar.setActiveAction(*first);
+  if (first == menus.end()) return;
+  new KeyboardLoan(bar);
+  bar.setActiveAction(*first);
 }
 
 }  // namespace
+
+bool isMenuInUse() {
+  const auto* bar = qobject_cast<QMenuBar*>(QApplication::focusWidget());
+  return QApplication::activePopupWidget() != nullptr ||
+         (bar != nullptr && bar->activeAction() != nullptr);
+}
 
 void closeMenus() {
   while (QWidget* popup = QApplication::activePopupWidget()) popup->close();

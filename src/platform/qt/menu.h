@@ -9,6 +9,9 @@
 
 namespace mevracard {
 
+/// Whether a menu, or the menu bar, has the keyboard.
+[[nodiscard]] bool isMenuInUse();
+
 /// Closes the menu that the player has open, if any: it keeps the keyboard from what opens now.
 void closeMenus();
 

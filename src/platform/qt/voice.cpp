@@ -7,14 +7,9 @@
 #include <utility>
 
 #include "platform/qt/look.h"
+#include "platform/qt/menu.h"
 
 namespace mevracard {
-
-namespace {
-
-bool isMenuOpen() { return QApplication::activePopupWidget() != nullptr; }
-
-}  // namespace
 
 Voice::Voice(Speech& speech, QWidget& canvas) : speech_(speech), canvas_(canvas) {
   canvas.installEventFilter(this);
@@ -29,7 +24,7 @@ void Voice::flush(QWidget& keyboard) {
   if (QAccessible::isActive() || told_.empty()) told_ = speech_.lists;
   waiting_ = waiting_ && speech_.unsaid;
   if (speech_.unsaid) writeNews();
-  if (!isMenuOpen()) keyboard.setFocus(Qt::OtherFocusReason);
+  if (!isMenuInUse()) keyboard.setFocus(Qt::OtherFocusReason);
   if (waiting_) speakSoon();
 }
 
@@ -47,7 +42,7 @@ void Voice::makePlaces() {
 void Voice::writeNews() {
   makePlaces();
   // What comes while a menu is open follows it, and that is where the keyboard will come back to.
-  if (!waiting_ && !isMenuOpen()) {
+  if (!waiting_ && !isMenuInUse()) {
     places_[0]->setFocusPolicy(Qt::NoFocus);
     std::swap(places_[0], places_[1]);
   }
@@ -84,8 +79,12 @@ bool Voice::isBehindAnother() const {
 }
 
 void Voice::speak() {
-  const bool lineDue = std::exchange(lineDue_, false) && places_[0]->hasFocus();
-  const bool hasTheWord = canvas_.isActiveWindow() && !isMenuOpen() && !isBehindAnother();
+  bool lineDue = std::exchange(lineDue_, false) && places_[0]->hasFocus();
+  if (lineDue && keyboard_ != nullptr) {
+    keyboard_->setFocus(Qt::OtherFocusReason);  // it may have gone on to a widget meanwhile
+    lineDue = places_[0]->hasFocus();
+  }
+  const bool hasTheWord = canvas_.isActiveWindow() && !isMenuInUse() && !isBehindAnother();
   if ((!waiting_ && !lineDue) || !hasTheWord) return;
   if (!waiting_) places_[0]->setAccessibleName(toText(speech_.line));
   reportFocus(*places_[0]);
