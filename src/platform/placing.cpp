@@ -21,10 +21,10 @@ Span down(const Dots& dots) { return {dots.top, dots.height}; }
 template <typename Side>
 std::set<int> turningPoints(const Dots& wanted, const Dots& room, const ClearGroups& clear,
                             Side side) {
-  const auto [start, length] = side(room);
-  const int last = std::max(start, start + length - side(wanted).length);
+  const Span whole = side(room);
+  const int last = std::max(whole.start, whole.start + whole.length - side(wanted).length);
   std::set<int> points;
-  const auto add = [&](int point) { points.insert(std::clamp(point, start, last)); };
+  const auto add = [&](int point) { points.insert(std::clamp(point, whole.start, last)); };
   add(side(wanted).start);
   for (const auto& group : clear) {
     for (const Dots& dots : group) {
