@@ -11,7 +11,7 @@ namespace mevracard {
 
 namespace {
 
-/// Shows who has won and counts it.
+/// Writes down who has won, on the table and in the statistics.
 /// QUIRK-43: also a demonstration that is played to its end. One would expect the
 /// statistics to hold the player's own games alone; the player finds one more there.
 void record(MainWindow& w, GameResult result) {

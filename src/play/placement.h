@@ -6,7 +6,7 @@
 namespace mevracard {
 
 /// Disarms the timer and lays a card (a slot, 0 to 27) for a side, as `lay` does, in sight. Says
-/// whether it fitted; if not, nothing else has changed.
+/// whether it fitted; if not, the chain is as it was.
 bool layCard(MainWindow& w, int card, Side by);
 
 /// Moves the frame of a card step by step towards the grid place that `layPosition` and
