@@ -19,7 +19,6 @@ void showStatistics(MainWindow& w) {
 
 void openStatistics(MainWindow& w) {
   w.form.enabled = false;
-  w.statistics.form.giveFocus(w.statistics.ok);
   w.showBeside(w.statistics.form);
   showStatistics(w);
 }

@@ -116,6 +116,10 @@ void FormWindow::flushFocus() {
 }
 
 void FormWindow::open() {
+  // Whoever opens it with a key shall not find that key on Clear.
+  if (main_ != nullptr && !isVisible() && form_.defaultFocus != nullptr) {
+    form_.giveFocus(*form_.defaultFocus);
+  }
   flush();
   if (form_.maximized) {
     setWindowState(windowState() & ~Qt::WindowMinimized);
