@@ -37,6 +37,7 @@ Side openChain(Game& game, std::optional<int> doubleZero) {
   game.counts.cardsLeft[opener] = handSize - 1;
   if (doubleZero) {
     Chain& chain = game.chain;
+    chain.laid.reserve(cardCount);
     game.card(*doubleZero).held = false;
     chain.endCard = {{doubleZero, doubleZero}};
     chain.openNumber = {};
