@@ -27,10 +27,10 @@ std::vector<KeptClear> MainWindow::whatMatters() const {
   for (const int slot : allSlots) {
     const bool isEnd =
         slot == game.chain.endCard[End::RightTop] || slot == game.chain.endCard[End::LeftBottom];
-    const bool players = slot < handSize;
-    KeptClear& group = !game.cards[static_cast<std::size_t>(slot)].held ? (isEnd ? ends : chain)
-                       : players                                        ? hand
-                                                                        : computersHand;
+    const bool players = ownerOf(slot) == Side::Player;
+    KeptClear& group = !game.card(slot).held ? (isEnd ? ends : chain)
+                       : players             ? hand
+                                             : computersHand;
     group.boxes.push_back(&cards[static_cast<std::size_t>(slot)].frame);
   }
   return {buttons, hand, ends, line, chain, computersHand};
