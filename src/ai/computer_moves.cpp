@@ -76,9 +76,8 @@ constexpr std::array<TargetRule, 6> targetRules{{
 
 /// Rules A to C: for both targets, each card in scan order.
 std::optional<Move> aimAtTargets(Game& game, Scan scan) {
-  const auto banned = bannedNumbers(game);
-  game.mind.bannedNumber = banned.empty() ? noNumber : banned.back();
-  const Targets targets = withBanned(rarestNumbers(playerCounts(game)), banned);
+  Targets targets = rarestNumbers(playerCounts(game));
+  findBannedNumber(game, targets);
   for (const int target : targets) {
     const auto move = firstMove(scan, [&](int card) -> std::optional<Move> {
       if (!game.card(card).held) return std::nullopt;
@@ -194,21 +193,10 @@ std::optional<Move> chooseTactically(Game& game, Scan scan) {
 
 /// Rule G. QUIRK-09: the scan goes on after a card, so one turn lays every card that fits when it
 /// is met. One would expect one card a turn.
-std::vector<Move> whateverFits(const Game& game, Scan scan) {
-  std::vector<Move> moves;
-  PerEnd<int> open = game.chain.openNumber;
-  PerSide<bool> aims = game.aimsLeftBottom;
-  for (const int slot : scanned(Side::Computer, scan)) {
-    const Card& card = game.card(slot);
-    const bool fits = card.bears(open[End::RightTop]) || card.bears(open[End::LeftBottom]);
-    if (!card.held || !fits) continue;
-    moves.push_back({slot, std::nullopt});
-    const auto end = endFor(card, open, aims);
-    if (!end) continue;
-    open[*end] = card.otherThan(open[*end]);
-    aims[Side::Player] = false;
+void layWhateverFits(const Game& game, Scan scan, const Lay& lay) {
+  for (const int card : scanned(Side::Computer, scan)) {
+    if (game.card(card).held && fits(game, card)) lay({card, std::nullopt});
   }
-  return moves;
 }
 
 }  // namespace
@@ -227,15 +215,14 @@ std::array<int, handSize> scanned(Side side, Scan scan) {
   return slots;
 }
 
-std::vector<Move> computersMoves(Game& game, Scan scan) {
-  if (game.levels.computer == 2) {
-    if (const auto move = chooseTactically(game, scan)) {
-      game.mind.lookedAt = move->card;
-      return {*move};
-    }
+void moveForComputer(Game& game, Scan scan, const Lay& lay) {
+  const auto move = game.levels.computer == 2 ? chooseTactically(game, scan) : std::nullopt;
+  game.mind.lookedAt = move ? move->card : scanned(Side::Computer, scan).back();
+  if (move) {
+    lay(*move);
+  } else {
+    layWhateverFits(game, scan, lay);
   }
-  game.mind.lookedAt = scanned(Side::Computer, scan).back();
-  return whateverFits(game, scan);
 }
 
 }  // namespace mevracard

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <optional>
-#include <vector>
 
 #include "game/game.h"
 
@@ -25,8 +25,11 @@ struct Move {
   std::optional<End> end;
 };
 
+/// Lays a card of the computer's in sight of the player.
+using Lay = std::function<void(const Move&)>;
+
 /// The computer's turn at its level, one move after the other. At level 2 the first of rules A to F
 /// that applies decides; else, and at level 1, rule G does.
-[[nodiscard]] std::vector<Move> computersMoves(Game& game, Scan scan);
+void moveForComputer(Game& game, Scan scan, const Lay& lay);
 
 }  // namespace mevracard

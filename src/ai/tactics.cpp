@@ -52,23 +52,19 @@ Targets rarestNumbers(const NumberCounts& playerCount) {
   return {best, rarest(playerCount, 1, best)};
 }
 
-std::vector<int> bannedNumbers(const Game& game) {
-  std::vector<int> banned;
+void findBannedNumber(Game& game, Targets& targets) {
+  game.mind.bannedNumber = noNumber;
   const NumberCounts played = playedCounts(game);
   for (int n = 0; n < static_cast<int>(played.size()); ++n) {
-    if (played.at(static_cast<std::size_t>(n)) != 5) continue;
+    if (played[static_cast<std::size_t>(n)] != 5) continue;
     for (const int slot : handOf(Side::Computer)) {
-      if (game.card(slot).held && game.card(slot).bears(n)) banned.push_back(n);
+      if (!game.card(slot).held || !game.card(slot).bears(n)) continue;
+      game.mind.bannedNumber = n;
+      // QUIRK-22: once for every card, so that two of them put the number on both ranks. One would
+      // expect one shift; the computer then forgets its best target.
+      targets = {n, targets[0]};
     }
   }
-  return banned;
-}
-
-Targets withBanned(Targets targets, const std::vector<int>& banned) {
-  // QUIRK-22: once for every card, so that two of them put the number on both ranks. One would
-  // expect one shift; the computer then forgets its best target.
-  for (const int number : banned) targets = {number, targets[0]};
-  return targets;
 }
 
 }  // namespace mevracard

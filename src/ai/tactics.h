@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <vector>
 
 #include "game/game.h"
 
@@ -21,10 +20,8 @@ using Targets = std::array<int, 2>;
 /// Those of which the player holds the fewest cards.
 [[nodiscard]] Targets rarestNumbers(const NumberCounts& playerCount);
 
-/// The numbers of which five non-double cards lie on the table, each as often as the computer holds
-/// a card that bears it. The last one is banned.
-[[nodiscard]] std::vector<int> bannedNumbers(const Game& game);
-/// The targets after each of these numbers in turn was made the best one.
-[[nodiscard]] Targets withBanned(Targets targets, const std::vector<int>& banned);
+/// Notes the banned number in the game's `mind`: the last one of which five non-double cards lie on
+/// the table and the computer holds another. Every such number becomes the best target.
+void findBannedNumber(Game& game, Targets& targets);
 
 }  // namespace mevracard

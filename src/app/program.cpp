@@ -1,5 +1,6 @@
 #include "app/program.h"
 
+#include <algorithm>
 #include <array>
 #include <functional>
 
@@ -49,9 +50,9 @@ struct On {
                   StepWithNumber step) const {
     if (event.kind != kind || event.control == nullptr) return;
     const Control* frame = event.control->parent != nullptr ? event.control->parent : event.control;
-    for (const int slot : allSlots) {
-      if (frame == &cards[static_cast<std::size_t>(slot)].frame) step(w, slot);
-    }
+    const auto card = std::find_if(cards.begin(), cards.end(),
+                                   [&](const CardControls& c) { return &c.frame == frame; });
+    if (card != cards.end()) step(w, static_cast<int>(card - cards.begin()));
   }
   void operator()(const MenuEntry& entry, Step step) const {
     if (event.entry == &entry) step(w);
@@ -121,10 +122,14 @@ bool isDoneAtTable(const MainWindow& w, const Event& event) {
 void answer(MainWindow& w, const Event& event) {
   w.playerActed = isDoneAtTable(w, event);
   const On on{w, event};
-  onTable(on);
-  onPanels(on);
-  onOtherWindows(on);
-  onMenu(on);
+  if (event.kind == Menu) {
+    onMenu(on);
+  } else if (event.form == &w.form) {
+    onTable(on);
+    onPanels(on);
+  } else {
+    onOtherWindows(on);
+  }
 }
 
 }  // namespace

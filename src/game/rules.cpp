@@ -12,18 +12,14 @@ bool fits(const Game& game, int card) {
   return fitsAt(game, card, End::RightTop) || fitsAt(game, card, End::LeftBottom);
 }
 
-std::optional<End> endFor(const Card& card, const PerEnd<int>& openNumber,
-                          const PerSide<bool>& aimsLeftBottom) {
+std::optional<End> endFor(const Game& game, int card) {
   // QUIRK-07: a card that fits the Right/Top end alone is refused while Left/Bottom is asked for.
   // One would expect it at the end it fits; the player's card stays in the hand.
-  const bool rightAllowed = !aimsLeftBottom[Side::Player] && !aimsLeftBottom[Side::Computer];
-  if (rightAllowed && card.bears(openNumber[End::RightTop])) return End::RightTop;
-  if (card.bears(openNumber[End::LeftBottom])) return End::LeftBottom;
+  const auto& aims = game.aimsLeftBottom;
+  const bool rightAllowed = !aims[Side::Player] && !aims[Side::Computer];
+  if (rightAllowed && fitsAt(game, card, End::RightTop)) return End::RightTop;
+  if (fitsAt(game, card, End::LeftBottom)) return End::LeftBottom;
   return std::nullopt;
-}
-
-std::optional<End> endFor(const Game& game, int card) {
-  return endFor(game.card(card), game.chain.openNumber, game.aimsLeftBottom);
 }
 
 bool bearsBothActiveNumbers(const Game& game, int card) {

@@ -12,8 +12,6 @@ namespace mevracard {
 [[nodiscard]] bool fits(const Game& game, int card);
 /// The end that the card goes to: Right/Top before Left/Bottom, unless a side aims at Left/Bottom.
 /// None if it fits no end that is allowed.
-[[nodiscard]] std::optional<End> endFor(const Card& card, const PerEnd<int>& openNumber,
-                                        const PerSide<bool>& aimsLeftBottom);
 [[nodiscard]] std::optional<End> endFor(const Game& game, int card);
 
 /// The card's two numbers are exactly the two active numbers, in either order. A double qualifies

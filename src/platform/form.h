@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -70,9 +71,9 @@ struct Form {
   /// Whether the window is to open at `left` and `top` if the screen has room for it there; else
   /// the desktop finds it a place near the middle of the main window.
   bool placed = false;
-  /// What it shall not lie on in a place that the desktop finds, the weightiest first. A window
-  /// that the player has moved stays where it is.
-  std::vector<KeptClear> clearOf;
+  /// Asked what it shall not lie on in a place that the desktop finds, the weightiest first. A
+  /// window that the player has moved stays where it is.
+  std::function<std::vector<KeptClear>()> clearOf;
   /// What Esc presses on a real desktop: the first of these that is usable. A window beside the
   /// main one is closed if there is none.
   std::vector<Button*> escape;

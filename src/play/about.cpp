@@ -9,7 +9,7 @@ void showAbout(MainWindow& w) {
   w.about.form.caption = "About this program";
   w.about.heading.caption = creditsLine;
   w.about.tip.visible = false;
-  w.showBeside(w.about.form);
+  w.desktop.show(w.about.form);
 }
 
 void closeAbout(MainWindow& w) {

@@ -29,7 +29,7 @@ void layComputersCards(MainWindow& w) {
   }
   countComputersTurn(w.game);
   const Scan scan = scanFor(w.desktop.random());
-  for (const Move& move : computersMoves(w.game, scan)) layForComputer(w, move);
+  moveForComputer(w.game, scan, [&w](const Move& move) { layForComputer(w, move); });
 }
 
 /// QUIRK-11: a computer that cannot move either counts its pass before the deadlock, without the

@@ -19,7 +19,7 @@ void showStatistics(MainWindow& w) {
 
 void openStatistics(MainWindow& w) {
   w.form.enabled = false;
-  w.showBeside(w.statistics.form);
+  w.desktop.show(w.statistics.form);
   showStatistics(w);
 }
 

@@ -31,7 +31,7 @@ void showTips(MainWindow& w) {
   w.about.heading.caption = windowHeading;
   w.about.tip.visible = true;
   w.about.tip.caption = w.state.tipText;
-  w.showBeside(w.about.form);
+  w.desktop.show(w.about.form);
 }
 
 }  // namespace mevracard

@@ -17,6 +17,7 @@ void showNumber(Label& label, int number) {
 MainWindow::MainWindow(Desktop& d) : desktop(d) {
   designControls();
   designMenu();
+  about.form.clearOf = statistics.form.clearOf = [this] { return whatMatters(); };
 }
 
 double MainWindow::scale() const { return scaleOf(state.tableSize, state.screenHeight); }
@@ -52,16 +53,9 @@ void MainWindow::refresh() {
   menu.playerLevel2.checked = game.levels.player == 2;
   menu.computerLevel1.checked = game.levels.computer == 1;
   menu.computerLevel2.checked = game.levels.computer == 2;
-  if (about.form.visible) about.form.clearOf = whatMatters();
-  if (statistics.form.visible) statistics.form.clearOf = whatMatters();
   form.settleFocus();
   about.form.settleFocus();
   statistics.form.settleFocus();
-}
-
-void MainWindow::showBeside(Form& beside) {
-  beside.clearOf = whatMatters();
-  desktop.show(beside);
 }
 
 void MainWindow::present() {

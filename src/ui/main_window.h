@@ -49,8 +49,6 @@ struct MainWindow {
   /// The factor between design twips and the table in force.
   [[nodiscard]] double scale() const;
 
-  /// Shows one of the other windows, where it hides nothing that matters.
-  void showBeside(Form& beside);
   /// Copies the state into what shows it, settles the focus and presents the windows.
   void present();
   /// The same without the desktop: what `present` would show.

@@ -149,7 +149,7 @@ void FormWindow::flushSize() {
 ClearGroups FormWindow::clearGroups(bool always) const {
   constexpr int gap = 6;  // pixels
   ClearGroups groups;
-  for (const KeptClear& kept : form_.clearOf) {
+  for (const KeptClear& kept : form_.clearOf()) {
     if (always && !kept.always) continue;
     groups.emplace_back();
     for (const Box* box : kept.boxes) {
