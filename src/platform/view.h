@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+
 #include "platform/control.h"
 #include "platform/dots.h"
 
@@ -10,10 +12,10 @@ constexpr double pixelsPerInch = 96;  ///< of the design; a screen may have seve
 constexpr double twipsPerDesignPixel = twipsPerInch / pixelsPerInch;
 
 /// How many times their design size panels, small windows and boxes have on a screen of so many
-/// pixels' height: beyond this height they grow as the table does.
-constexpr double growthOn(double screenHeight) {
-  constexpr double usualHeight = 1200;
-  return screenHeight > usualHeight ? screenHeight / usualHeight : 1;
+/// pixels: beyond this size they grow as the table does, which has to fit both ways.
+constexpr double growthOn(double screenWidth, double screenHeight) {
+  constexpr double usualWidth = 1600, usualHeight = 1200;
+  return std::max(1.0, std::min(screenWidth / usualWidth, screenHeight / usualHeight));
 }
 
 /// How a window's twips lie on the dots of its screen: one zoom and one origin. The only place

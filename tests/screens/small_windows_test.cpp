@@ -16,7 +16,8 @@ namespace mevracard {
 namespace {
 
 double growth() {
-  return std::max(1.0, QGuiApplication::primaryScreen()->size().height() / 1200.0);
+  const QSize screen = QGuiApplication::primaryScreen()->size();
+  return std::max(1.0, std::min(screen.width() / 1600.0, screen.height() / 1200.0));
 }
 
 class SmallWindows : public testing::Test {

@@ -68,7 +68,10 @@ QRect areaOf(const QWidget& window) {
   return window.isMaximized() ? window.screen()->availableGeometry() : window.frameGeometry();
 }
 
-double growthOf(const QWidget& window) { return growthOn(window.screen()->size().height()); }
+double growthOf(const QWidget& window) {
+  const QSize screen = window.screen()->size();
+  return growthOn(screen.width(), screen.height());
+}
 
 void applyLook() {
   // The menu belongs to the table on every desktop; to look for another place takes a while.
