@@ -108,13 +108,14 @@ MessageBox::MessageBox(QWidget* parent, Kind kind, const QString& title, const Q
   auto* label = new Text(text);
   label->setFont(toFont(usualType, growth_));
   label->fit(grown(usualWidth), room);
-  grid->addWidget(label, 0, 1, Qt::AlignLeft | Qt::AlignVCenter);
+  const int column = sign > 0 ? 1 : 0;
+  grid->addWidget(label, 0, column, Qt::AlignCenter);
   const int titleWidth = fontMetrics().horizontalAdvance(title) + titleButtons;
-  grid->setColumnMinimumWidth(1, std::min(room.width(), titleWidth));
+  grid->setColumnMinimumWidth(column, std::min(room.width(), titleWidth));
 
   auto* ok = new OkButton(growth_);
   connect(ok, &QPushButton::clicked, this, &QDialog::accept);
-  grid->addWidget(ok, 1, 0, 1, 2, Qt::AlignHCenter);
+  grid->addWidget(ok, 1, 0, 1, column + 1, Qt::AlignHCenter);
   ok->setFocus();
 }
 
