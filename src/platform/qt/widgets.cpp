@@ -19,6 +19,26 @@ namespace {
 constexpr Font textType{"MS Sans Serif", 12};
 constexpr int textMargin = 2;  // pixels
 
+/// A style draws the arrows by the font, in dots of an inch that are as many more as all has grown.
+class GrowingScrollBar final : public QScrollBar {
+ public:
+  explicit GrowingScrollBar(QWidget& parent) : QScrollBar(Qt::Horizontal, &parent) {}
+
+  void grow(double growth) {
+    growth_ = growth;
+    setFont(toFont(textType, growth));
+  }
+
+ protected:
+  int metric(PaintDeviceMetric of) const override {
+    const int usual = QScrollBar::metric(of);
+    return of == PdmDpiX || of == PdmDpiY ? static_cast<int>(usual * growth_) : usual;
+  }
+
+ private:
+  double growth_ = 1;
+};
+
 bool isShown(const Control& control) { return control.visible && isWidget(control); }
 
 bool isText(const Control& control) {
@@ -120,8 +140,10 @@ void Widgets::flush(QWidget& widget, const Control& control) {
   if (control.kind == ControlKind::ScrollBar) {
     const auto& bar = static_cast<const ScrollBar&>(control);
     const QSignalBlocker silent(&widget);
-    static_cast<QScrollBar&>(widget).setRange(bar.minimum, bar.maximum);
-    static_cast<QScrollBar&>(widget).setValue(bar.value);
+    auto& shown = static_cast<GrowingScrollBar&>(widget);
+    shown.grow(growth());
+    shown.setRange(bar.minimum, bar.maximum);
+    shown.setValue(bar.value);
   } else {
     const auto& caption = control.kind == ControlKind::Label
                               ? static_cast<const Label&>(control).caption
@@ -160,7 +182,7 @@ QRect Widgets::placeOf(const Box& box) const {
 QWidget* Widgets::make(Control& control) {
   QWidget* widget = nullptr;
   if (control.kind == ControlKind::ScrollBar) {
-    auto* bar = new QScrollBar(Qt::Horizontal, &canvas_);
+    auto* bar = new GrowingScrollBar(canvas_);
     bar->setFocusPolicy(Qt::StrongFocus);
     bar->setTracking(false);
     bar->setInvertedControls(false);  // Left is less
