@@ -50,6 +50,7 @@ void runLine(std::unique_ptr<Session>& session, std::string_view line) {
   if (command.needsProgram) (void)session->window();
   command.run(call);
   session->joinPlayCard();
+  session->tellState(line);
 }
 
 }  // namespace mevracard::script

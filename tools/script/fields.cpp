@@ -87,14 +87,17 @@ struct Found {
   Range range;
 };
 
-/// "held(3)" is element 3 of the array; the name must be written as it is shown.
+/// "held(3)" is element 3 of the array.
+std::string nameOf(const Field& field, int i) {
+  return std::string(field.name) + (field.elements == 1 ? "" : "(" + std::to_string(i) + ")");
+}
+
+/// The name must be written as it is shown.
 std::optional<Found> find(MainWindow& w, std::string_view name) {
   for (const Field& field : fields) {
     if (!name.starts_with(field.name)) continue;
-    if (field.elements == 1 && name == field.name)
-      return Found{field.placeIn(w.game, w.state, 0), field.range};
-    for (int i = 0; field.elements > 1 && i < field.elements; ++i) {
-      if (name == std::string(field.name) + "(" + std::to_string(i) + ")") {
+    for (int i = 0; i < field.elements; ++i) {
+      if (name == nameOf(field, i)) {
         return Found{field.placeIn(w.game, w.state, i), field.range};
       }
     }
@@ -138,6 +141,17 @@ std::optional<std::string> fieldText(MainWindow& w, std::string_view name) {
   const auto found = find(w, name);
   if (!found) return std::nullopt;
   return std::visit(TextOf{}, found->place);
+}
+
+std::vector<std::string> fieldLines(MainWindow& w) {
+  std::vector<std::string> lines{"scaleFactor = " + decimalText(w.scale())};
+  for (const Field& field : fields) {
+    for (int i = 0; i < field.elements; ++i) {
+      lines.push_back(nameOf(field, i) + " = " +
+                      std::visit(TextOf{}, field.placeIn(w.game, w.state, i)));
+    }
+  }
+  return lines;
 }
 
 void setField(MainWindow& w, std::string_view name, std::string_view value) {

@@ -3,11 +3,15 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "ui/main_window.h"
 
 /// The fields of the game state by the names that a script uses.
 namespace mevracard::script {
+
+/// `NAME = VALUE` for every field there is.
+[[nodiscard]] std::vector<std::string> fieldLines(MainWindow& w);
 
 /// The value of a field as a script shows it; empty if there is no such field.
 [[nodiscard]] std::optional<std::string> fieldText(MainWindow& w, std::string_view name);

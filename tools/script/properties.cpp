@@ -1,7 +1,6 @@
 #include "script/properties.h"
 
-#include <array>
-#include <optional>
+#include <algorithm>
 
 #include "platform/headless/transcript.h"
 #include "script/values.h"
@@ -10,119 +9,123 @@ namespace mevracard::script {
 
 namespace {
 
-using Value = std::optional<std::string>;
-
-/// One row a property: its name, and its text for a part of this kind.
 template <typename Part>
-struct Property {
-  std::string_view name;
-  std::string (*text)(const Part& part);
-};
-
-template <typename Part, std::size_t N>
-Value lookUp(const std::array<Property<Part>, N>& table, const Part& part, std::string_view name) {
-  for (const auto& property : table) {
-    if (property.name == name) return property.text(part);
-  }
-  return std::nullopt;
+void addBox(Properties& list, const Part& p) {
+  list.emplace_back("left", twipsText(p.left));
+  list.emplace_back("top", twipsText(p.top));
+  list.emplace_back("width", twipsText(p.width));
+  list.emplace_back("height", twipsText(p.height));
 }
 
-constexpr std::array<Property<Control>, 2> ofControls{{
-    {"visible", [](const Control& c) { return flagText(c.visible); }},
-    {"enabled", [](const Control& c) { return flagText(c.enabled); }},
-}};
-
-/// Windows and controls with a box share these.
 template <typename Part>
-constexpr std::array<Property<Part>, 4> ofBoxes{{
-    {"left", [](const Part& p) { return twipsText(p.left); }},
-    {"top", [](const Part& p) { return twipsText(p.top); }},
-    {"width", [](const Part& p) { return twipsText(p.width); }},
-    {"height", [](const Part& p) { return twipsText(p.height); }},
-}};
+void addText(Properties& list, const Part& p) {
+  list.emplace_back("caption", quoted(p.caption));
+  list.emplace_back("fontName", quoted(p.font.family));
+  list.emplace_back("fontSize", twipsText(p.font.size));
+  list.emplace_back("fontBold", flagText(p.font.bold));
+  list.emplace_back("fontItalic", flagText(p.font.italic));
+  list.emplace_back("backColor", colorText(p.backColor));
+  list.emplace_back("foreColor", colorText(p.foreColor));
+}
 
-/// Labels and buttons share these.
 template <typename Part>
-constexpr std::array<Property<Part>, 4> ofTexts{{
-    {"caption", [](const Part& p) { return quoted(p.caption); }},
-    {"fontSize", [](const Part& p) { return twipsText(p.font.size); }},
-    {"backColor", [](const Part& p) { return colorText(p.backColor); }},
-    {"foreColor", [](const Part& p) { return colorText(p.foreColor); }},
-}};
+void addBorder(Properties& list, const Part& p) {
+  list.emplace_back("borderColor", colorText(p.borderColor));
+  list.emplace_back("borderWidth", std::to_string(p.borderWidth));
+}
 
-constexpr std::array<Property<Frame>, 1> ofFrames{{
-    {"backColor", [](const Frame& f) { return colorText(f.backColor); }},
-}};
+void add(Properties& list, const Label& l) {
+  addText(list, l);
+  list.emplace_back("alignment", std::to_string(static_cast<int>(l.alignment)));
+  list.emplace_back("bordered", flagText(l.bordered));
+  list.emplace_back("opaque", flagText(l.opaque));
+  list.emplace_back("link", flagText(l.link));
+  list.emplace_back("scrolls", flagText(l.scrolls));
+  list.emplace_back("foremost", flagText(l.foremost));
+}
 
-constexpr std::array<Property<Line>, 6> ofLines{{
-    {"x1", [](const Line& l) { return twipsText(l.x1); }},
-    {"y1", [](const Line& l) { return twipsText(l.y1); }},
-    {"x2", [](const Line& l) { return twipsText(l.x2); }},
-    {"y2", [](const Line& l) { return twipsText(l.y2); }},
-    {"borderColor", [](const Line& l) { return colorText(l.borderColor); }},
-    {"borderWidth", [](const Line& l) { return std::to_string(l.borderWidth); }},
-}};
+void add(Properties& list, const Button& b) {
+  addText(list, b);
+  list.emplace_back("keysOnly", flagText(b.keysOnly));
+}
 
-constexpr std::array<Property<Shape>, 3> ofShapes{{
-    {"borderColor", [](const Shape& s) { return colorText(s.borderColor); }},
-    {"fillColor", [](const Shape& s) { return colorText(s.fillColor); }},
-    {"borderWidth", [](const Shape& s) { return std::to_string(s.borderWidth); }},
-}};
+void add(Properties& list, const Frame& f) {
+  list.emplace_back("backColor", colorText(f.backColor));
+}
 
-constexpr std::array<Property<MenuEntry>, 3> ofEntries{{
-    {"caption", [](const MenuEntry& e) { return quoted(e.caption); }},
-    {"enabled", [](const MenuEntry& e) { return flagText(e.enabled); }},
-    {"checked", [](const MenuEntry& e) { return flagText(e.checked); }},
-}};
+void add(Properties& list, const Line& l) {
+  list.emplace_back("x1", twipsText(l.x1));
+  list.emplace_back("y1", twipsText(l.y1));
+  list.emplace_back("x2", twipsText(l.x2));
+  list.emplace_back("y2", twipsText(l.y2));
+  addBorder(list, l);
+}
 
-constexpr std::array<Property<Form>, 4> ofWindows{{
-    {"caption", [](const Form& f) { return quoted(f.caption); }},
-    {"visible", [](const Form& f) { return flagText(f.visible); }},
-    {"enabled", [](const Form& f) { return flagText(f.enabled); }},
-    {"backColor", [](const Form& f) { return colorText(f.backColor); }},
-}};
+void add(Properties& list, const Shape& s) {
+  addBorder(list, s);
+  list.emplace_back("shape", std::to_string(static_cast<int>(s.form)));
+  list.emplace_back("outlined", flagText(s.outlined));
+  list.emplace_back("filled", flagText(s.filled));
+  list.emplace_back("dashed", flagText(s.dashed));
+  list.emplace_back("fillColor", colorText(s.fillColor));
+}
 
-Value byKind(const Control& control, std::string_view name) {
-  switch (control.kind) {
+void add(Properties& list, const ScrollBar& b) {
+  list.emplace_back("min", std::to_string(b.minimum));
+  list.emplace_back("max", std::to_string(b.maximum));
+  list.emplace_back("value", std::to_string(b.value));
+}
+
+void addOfKind(Properties& list, const Control& c) {
+  switch (c.kind) {
     case ControlKind::Label:
-      return lookUp(ofTexts<Label>, static_cast<const Label&>(control), name);
+      return add(list, static_cast<const Label&>(c));
     case ControlKind::Button:
-      return lookUp(ofTexts<Button>, static_cast<const Button&>(control), name);
+      return add(list, static_cast<const Button&>(c));
     case ControlKind::Frame:
-      return lookUp(ofFrames, static_cast<const Frame&>(control), name);
+      return add(list, static_cast<const Frame&>(c));
     case ControlKind::Line:
-      return lookUp(ofLines, static_cast<const Line&>(control), name);
+      return add(list, static_cast<const Line&>(c));
     case ControlKind::Shape:
-      return lookUp(ofShapes, static_cast<const Shape&>(control), name);
+      return add(list, static_cast<const Shape&>(c));
     case ControlKind::ScrollBar:
-      break;
+      return add(list, static_cast<const ScrollBar&>(c));
   }
-  return std::nullopt;
-}
-
-Value valueOf(const Control& control, std::string_view name) {
-  if (auto value = lookUp(ofControls, control, name)) return value;
-  if (auto value = byKind(control, name)) return value;
-  if (control.kind == ControlKind::Line) return std::nullopt;
-  return lookUp(ofBoxes<Box>, static_cast<const Box&>(control), name);
-}
-
-Value valueOf(const MenuEntry& entry, std::string_view name) {
-  return lookUp(ofEntries, entry, name);
-}
-
-Value valueOf(const Form& form, std::string_view name) {
-  if (auto value = lookUp(ofWindows, form, name)) return value;
-  return lookUp(ofBoxes<Form>, form, name);
 }
 
 template <typename Part>
 std::string valueOrError(const Part& part, std::string_view partName, std::string_view name) {
-  if (auto value = valueOf(part, name)) return *value;
+  for (auto& [property, value] : propertiesOf(part)) {
+    if (property == name) return value;
+  }
   throw ScriptError(std::string(partName) + " has no property " + excerpt(name));
 }
 
 }  // namespace
+
+Properties propertiesOf(const Control& c) {
+  Properties list{{"visible", flagText(c.visible)},
+                  {"enabled", flagText(c.enabled)},
+                  {"layer", std::to_string(static_cast<int>(c.layer))},
+                  {"pinned", flagText(c.pinned)}};
+  if (c.kind != ControlKind::Line) addBox(list, static_cast<const Box&>(c));
+  addOfKind(list, c);
+  return list;
+}
+
+Properties propertiesOf(const MenuEntry& e) {
+  return {{"caption", quoted(e.caption)},
+          {"enabled", flagText(e.enabled)},
+          {"checked", flagText(e.checked)}};
+}
+
+Properties propertiesOf(const Form& f) {
+  Properties list{{"caption", quoted(f.caption)},       {"visible", flagText(f.visible)},
+                  {"enabled", flagText(f.enabled)},     {"backColor", colorText(f.backColor)},
+                  {"maximized", flagText(f.maximized)}, {"placed", flagText(f.placed)}};
+  addBox(list, f);
+  return list;
+}
 
 std::string propertyText(const Names& names, std::string_view name) {
   const auto point = name.rfind('.');

@@ -2,13 +2,18 @@
 
 #include <iostream>
 
+#include "script/overview.h"
 #include "script/values.h"
 
 namespace mevracard::script {
 
 void print(std::string_view line) { std::cout << line << '\n'; }
 
-Session::Session() : desktop(print) {}
+Session::Session()
+    : desktop([this](std::string_view line) {
+        tellState(line);  // what lies behind a message
+        print(line);
+      }) {}
 
 void Session::start() {
   names_.reset();
@@ -33,6 +38,10 @@ void Session::joinPlayCard() {
                                                                               : offered;
   offered = s.choiceCard = s.demo.card = window().game.mind.lookedAt.value_or(changed);
   window().game.mind.lookedAt.reset();
+}
+
+void Session::tellState(std::string_view why) {
+  if (watched && names_) print("state " + digest(*this) + " " + std::string(why));
 }
 
 MainWindow& Session::window() {

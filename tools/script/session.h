@@ -14,6 +14,7 @@ class Session {
   Session();
 
   HeadlessDesktop desktop;
+  bool watched = false;  ///< whether `tellState` prints anything
 
   /// Starts the program anew in this world; it must not be running.
   void start();
@@ -23,6 +24,9 @@ class Session {
   /// Scripts know one `playCard`: the card last offered, asked about, demonstrated or considered by
   /// the computer. To be called after every command.
   void joinPlayCard();
+
+  /// Prints a digest of all that a script can ask for: "state 3f2a", and what led to it.
+  void tellState(std::string_view why);
 
   // The started program, also after it has ended. Throw ScriptError before the first start.
   [[nodiscard]] MainWindow& window();

@@ -3,6 +3,7 @@
 #include "platform/headless/transcript.h"
 #include "script/commands.h"
 #include "script/fields.h"
+#include "script/overview.h"
 #include "script/procedures.h"
 #include "script/properties.h"
 #include "script/values.h"
@@ -62,6 +63,10 @@ void showSpeech(const HeadlessDesktop& desktop) {
 void show(const Call& call) {
   call.session().window().refresh();  // captions follow the state
   if (call.words[0] == "file") return showFile(call);
+  if (call.text == "all") {
+    for (const std::string& line : overview(call.session())) print(line);
+    return;
+  }
   if (call.text == "speech") return showSpeech(call.session().desktop);
   // All names are looked up before the first is shown, so that a faulty line shows nothing.
   std::vector<std::string> lines;

@@ -88,11 +88,21 @@ void speech(const Call& call) {
   if (call.session().desktop.running()) call.session().window().present();
 }
 
-void reset(const Call& call) { call.slot = std::make_unique<Session>(); }
+void watch(const Call& call) {
+  const std::string_view word = call.words[0];
+  if (word != "on" && word != "off") throw ScriptError("watch on or off");
+  call.session().watched = word == "on";
+}
+
+void reset(const Call& call) {
+  const bool watched = call.session().watched;
+  call.slot = std::make_unique<Session>();
+  call.session().watched = watched;
+}
 
 void echo(const Call& call) { print(call.text); }
 
-constexpr std::array<Command, 13> worldTable{{
+constexpr std::array<Command, 14> worldTable{{
     {"screen", "screen HEIGHT TPP", 2, 2, false, screen},
     {"date", "date TEXT", 1, anyNumber, false, date},
     {"time", "time MINUTE SECOND", 2, 2, false, time},
@@ -104,6 +114,7 @@ constexpr std::array<Command, 13> worldTable{{
     {"allow", "allow NAME", 1, 1, false, allow},
     {"pointer", "pointer yes|no", 1, 1, false, pointer},
     {"speech", "speech on|off", 1, 1, false, speech},
+    {"watch", "watch on|off", 1, 1, false, watch},
     {"reset", "reset", 0, 0, false, reset},
     {"echo", "echo TEXT", 0, anyNumber, false, echo},
 }};

@@ -1,9 +1,10 @@
-"""run_scenario.py [--record] PROGRAM SCRIPT EXPECTED
+"""run_scenario.py [--record] PROGRAM SCRIPT EXPECTED [STATES]
 run_scenario.py PROGRAM PAGE
 
 Feeds SCRIPT to PROGRAM and compares what it prints with EXPECTED, line by line. A run that ends with
 a status other than 0, or writes to standard error, has that as its last lines: "exit 2: line 3: WHY".
---record writes what was printed to EXPECTED instead.
+What nobody asked about is in STATES, a line a script: four digits for all that `show all` prints, after
+each command and behind each message. --record writes what was printed to EXPECTED and STATES instead.
 
 The scripts of a PAGE (Markdown) hold what they print in their own comments. One that does not begin
 with `deal` goes on from the last one that did.
@@ -40,6 +41,30 @@ def difference(expected, actual):
     return None
 
 
+def states(program, commands):
+    """Of each state its digest and what led to it."""
+    lines = transcript(program, b"watch on\n" + commands)
+    return [line.split(" ", 2)[1:] for line in lines if line.startswith("state ")]
+
+
+def read_states(path):
+    lines = path.read_text(encoding="utf-8").splitlines() if path.exists() else []
+    return {name: digests.split() for name, digests in (line.split(" ", 1) for line in lines)}
+
+
+def record_states(path, name, found):
+    recorded = {**read_states(path), name: [digest for digest, why in found]}
+    lines = [f"{name} {' '.join(digests)}\n" for name, digests in sorted(recorded.items())]
+    path.write_text("".join(lines), encoding="utf-8")
+
+
+def unlike_state(recorded, found):
+    for number, ((digest, why), wanted) in enumerate(zip_longest(found, recorded, fillvalue=("", "")), 1):
+        if digest != wanted:
+            return f"state {number} is another one, at: {why}\n  `show all` there, then and now, tells what differs"
+    return None
+
+
 def check_page(program, page):
     text = page.read_text(encoding="utf-8")
     position, ran = "", 0
@@ -72,13 +97,18 @@ def main():
     script, *expected = map(Path, paths)
     if not expected:
         return check_page(program, script)
-    expected = expected[0]
-    actual = transcript(program, script.read_bytes())
+    expected, *recorded = expected
+    commands = script.read_bytes()
+    actual = transcript(program, commands)
+    found = states(program, commands) if recorded else []
     if recording:
-        return record(expected, actual)
+        record(expected, actual)
+        return recorded and record_states(recorded[0], script.stem, found)
     if not expected.exists():
         return f"{expected} does not exist; --record writes it"
     report = difference(expected.read_text(encoding="utf-8").splitlines(), actual)
+    if not report and recorded:
+        report = unlike_state(read_states(recorded[0]).get(script.stem, []), found)
     return report and f"{expected}: {report}"
 
 
