@@ -10,7 +10,7 @@ namespace mevracard {
 
 namespace {
 
-/// A card under examination: x over y, against the active numbers, a target and the banned number.
+/// A card under examination: x over y, against the open numbers, a target and the banned number.
 struct Candidate {
   int x, y;
   int first, second;

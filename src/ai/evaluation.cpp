@@ -11,7 +11,7 @@ SameNumberVerdict sameNumberVerdict(const Game& game) {
   for (const int card : handOf(Side::Computer)) {
     if (!game.card(card).held) continue;
     if (!banShows) return SameNumberVerdict::Harmless;
-    if (!bearsBothActiveNumbers(game, card)) continue;
+    if (!bearsBothOpenNumbers(game, card)) continue;
     const int players = leftover(game, Side::Player).sum;
     const int computers = leftover(game, Side::Computer).sum - game.card(card).sum();
     return computers > players ? SameNumberVerdict::WouldLose : SameNumberVerdict::Harmless;

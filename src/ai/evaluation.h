@@ -8,7 +8,7 @@ namespace mevracard {
 enum class SameNumberVerdict {
   WouldLose,  ///< it could, and its sum of numbers left would still be the greater one
   Harmless,   ///< no end shows `bannedNumber`, or the sum would not be greater
-  NoCard,     ///< an end shows it, but the computer holds no card with both active numbers
+  NoCard,     ///< an end shows it, but the computer holds no card with both open numbers
 };
 
 /// NoCard also if the computer holds no card at all.

@@ -5,12 +5,12 @@
 #include <functional>
 
 #include "play/about.h"
+#include "play/choice_answers.h"
 #include "play/game_menu.h"
 #include "play/level_menu.h"
 #include "play/new_game.h"
 #include "play/passing.h"
 #include "play/player_input.h"
-#include "play/same_number_choice.h"
 #include "play/size_panel.h"
 #include "play/statistics.h"
 #include "play/table_size.h"

@@ -49,4 +49,18 @@ Deck shuffledDeck(const std::function<double()>& draw) {
   return deck;
 }
 
+void deal(Game& game, const Deck& deck) {
+  for (const int slot : allSlots) {
+    const auto [upper, lower] = deck[static_cast<std::size_t>(slot)];
+    game.card(slot) = {upper, lower, true};
+  }
+  game.chain.laidAt = {};
+  game.chain.openings = 0;
+  game.chain.laid.clear();
+  game.aimsLeftBottom = {};
+  game.counts = {};
+  game.ending.deadlock = false;
+  game.mind = {};
+}
+
 }  // namespace mevracard

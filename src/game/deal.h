@@ -5,9 +5,9 @@
 #include <string_view>
 #include <utility>
 
-#include "game/cards.h"
+#include "game/game.h"
 
-/// Seed and shuffle of a deal.
+/// The deal: its seed, the shuffle, a new game.
 namespace mevracard {
 
 /// The 28 pairs of a deal by slot, smaller number first.
@@ -19,5 +19,9 @@ using Deck = std::array<std::pair<int, int>, cardCount>;
 
 /// Shuffles and deals. Draws 28 numbers in [0, 1), one a card.
 [[nodiscard]] Deck shuffledDeck(const std::function<double()>& draw);
+
+/// Deals a new game at the levels of the one before. The open numbers and the end cards of that one
+/// stay until the opening, its result until the end.
+void deal(Game& game, const Deck& deck);
 
 }  // namespace mevracard

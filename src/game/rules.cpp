@@ -12,6 +12,13 @@ bool fits(const Game& game, int card) {
   return fitsAt(game, card, End::RightTop) || fitsAt(game, card, End::LeftBottom);
 }
 
+std::optional<End> firstFit(const Game& game, int card) {
+  for (const End end : {End::RightTop, End::LeftBottom}) {
+    if (fitsAt(game, card, end)) return end;
+  }
+  return std::nullopt;
+}
+
 std::optional<End> endFor(const Game& game, int card) {
   // QUIRK-07: a card that fits the Right/Top end alone is refused while Left/Bottom is asked for.
   // One would expect it at the end it fits; the player's card stays in the hand.
@@ -22,7 +29,7 @@ std::optional<End> endFor(const Game& game, int card) {
   return std::nullopt;
 }
 
-bool bearsBothActiveNumbers(const Game& game, int card) {
+bool bearsBothOpenNumbers(const Game& game, int card) {
   const auto [upper, lower, held] = game.card(card);
   const int first = game.chain.openNumber[End::RightTop];
   const int second = game.chain.openNumber[End::LeftBottom];
@@ -30,7 +37,7 @@ bool bearsBothActiveNumbers(const Game& game, int card) {
 }
 
 bool makesSameNumber(const Game& game, int card) {
-  return !game.card(card).isDouble() && bearsBothActiveNumbers(game, card);
+  return !game.card(card).isDouble() && bearsBothOpenNumbers(game, card);
 }
 
 bool noneFits(const Game& game, std::span<const int> cards) {

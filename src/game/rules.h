@@ -6,18 +6,20 @@
 /// their slots.
 namespace mevracard {
 
-/// The card bears the active number of this end.
+/// The card bears the open number of this end.
 [[nodiscard]] bool fitsAt(const Game& game, int card, End end);
 /// The card fits at least one end.
 [[nodiscard]] bool fits(const Game& game, int card);
+/// The first end that it fits, Right/Top before Left/Bottom.
+[[nodiscard]] std::optional<End> firstFit(const Game& game, int card);
 /// The end that the card goes to: Right/Top before Left/Bottom, unless a side aims at Left/Bottom.
 /// None if it fits no end that is allowed.
 [[nodiscard]] std::optional<End> endFor(const Game& game, int card);
 
-/// The card's two numbers are exactly the two active numbers, in either order. A double qualifies
+/// The card's two numbers are exactly the two open numbers, in either order. A double qualifies
 /// when both ends show its number.
-[[nodiscard]] bool bearsBothActiveNumbers(const Game& game, int card);
-/// The same-number rule: bearsBothActiveNumbers and the two numbers differ, so that laying the
+[[nodiscard]] bool bearsBothOpenNumbers(const Game& game, int card);
+/// The same-number rule: bearsBothOpenNumbers and the two numbers differ, so that laying the
 /// card leaves the same number open at both ends.
 [[nodiscard]] bool makesSameNumber(const Game& game, int card);
 

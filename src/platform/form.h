@@ -35,15 +35,15 @@ struct Timer {
 };
 
 /// A place in the window, in twips.
-struct Position {
+struct WindowPoint {
   float left = 0, top = 0;
-  bool operator==(const Position&) const = default;
+  bool operator==(const WindowPoint&) const = default;
 };
 
 /// A frame's way in a straight line to where, or near where, it stands by now.
 struct Glide {
   const Frame* frame;
-  Position from, to;
+  WindowPoint from, to;
 };
 
 /// What a window beside the main one does not lie on, where the screen has room beside it.
@@ -64,7 +64,7 @@ struct Form {
   bool enabled = true;
   Color backColor;
   const Box* whole = nullptr;  ///< what a window of any size shows all of, in its middle
-  double growth = 1;           ///< how many times larger the player may make that
+  double headroom = 1;         ///< how many times larger the player may make that
   /// Has its upper left corner where that of the pinned controls shall be if they cannot keep their
   /// place without lying on `whole`.
   const Box* corner = nullptr;

@@ -28,7 +28,8 @@ auto partsOf(const Frame& frame, Items& items) {
 /// Makes a picture, one window or frame at a time.
 class Maker {
  public:
-  Maker(const Views& views, const std::function<Position(const Frame&)>& seenAt, Picture& picture)
+  Maker(const Views& views, const std::function<WindowPoint(const Frame&)>& seenAt,
+        Picture& picture)
       : views_(views), seenAt_(seenAt), picture_(picture) {}
 
   /// `controls` are the parts of `frame`, or of the window if that is null.
@@ -80,7 +81,7 @@ class Maker {
   }
 
   void addFrame(Item& item, const Frame& frame) {
-    const Position at = seenAt_(frame);
+    const WindowPoint at = seenAt_(frame);
     item.place = item.view.box(frame, at.left, at.top);
     const FrameLook look(frame, item.place, item.view);
     item.room = item.place.grown(-look.edge);
@@ -123,7 +124,7 @@ class Maker {
   }
 
   const Views& views_;
-  const std::function<Position(const Frame&)>& seenAt_;
+  const std::function<WindowPoint(const Frame&)>& seenAt_;
   Picture& picture_;
 };
 
@@ -152,7 +153,7 @@ Dots Item::bounds() const {
 Views viewsOf(const Form& form, const Dots& window, double ratio, double growth) {
   const View own = View::plain(ratio * growth);
   if (form.whole == nullptr) return {own, own, window};
-  const View table = View::fitted(*form.whole, window.width, window.height, ratio, form.growth);
+  const View table = View::fitted(*form.whole, window.width, window.height, ratio, form.headroom);
   Dots pinned;
   for (const Control* control : form.controls) {
     if (!control->pinned || control->kind == ControlKind::Line) continue;
@@ -179,7 +180,7 @@ bool isWidget(const Control& control) {
 }
 
 Picture pictureOf(const Form& form, const Views& views,
-                  const std::function<Position(const Frame&)>& seenAt) {
+                  const std::function<WindowPoint(const Frame&)>& seenAt) {
   Picture picture;
   picture.reserve(form.controls.size() * 5);
   std::vector<Control*> controls = form.controls;

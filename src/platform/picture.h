@@ -64,7 +64,7 @@ struct Views {
 
 /// `seenAt` tells where a frame shows, which may be on its way to where it belongs.
 [[nodiscard]] Picture pictureOf(const Form& form, const Views& views,
-                                const std::function<Position(const Frame&)>& seenAt);
+                                const std::function<WindowPoint(const Frame&)>& seenAt);
 
 /// Lets a frame and its parts look as they did in a picture before.
 void keepLook(Picture& picture, const Frame& frame, const Picture& before);

@@ -53,10 +53,10 @@ Dots View::line(const Line& line) const {
 
 View View::plain(double ratio) { return {ratio / twipsPerDesignPixel, 0, 0}; }
 
-View View::fitted(const Box& whole, double width, double height, double ratio, double growth) {
+View View::fitted(const Box& whole, double width, double height, double ratio, double headroom) {
   const double own = ratio / twipsPerDesignPixel;
-  const double zoom = std::min(
-      {own, zoomToFill(width, whole.width * growth), zoomToFill(height, whole.height * growth)});
+  const double zoom = std::min({own, zoomToFill(width, whole.width * headroom),
+                                zoomToFill(height, whole.height * headroom)});
   return {zoom, originFor(width, whole.left, whole.width, zoom),
           originFor(height, whole.top, whole.height, zoom)};
 }

@@ -45,10 +45,10 @@ struct View {
   /// The design at its own size, from the window's corner; `ratio` is the dots of a pixel.
   [[nodiscard]] static View plain(double ratio);
   /// All of `whole` in the middle of a window of this many dots: at its own size where the window
-  /// has room for `growth` times that, else smaller, never larger. So what the player makes larger
-  /// is seen to grow.
+  /// has room for `headroom` times that, else smaller, never larger. So what the player makes
+  /// larger is seen to grow.
   [[nodiscard]] static View fitted(const Box& whole, double width, double height, double ratio,
-                                   double growth = 1);
+                                   double headroom = 1);
 };
 
 /// Whether a line is upright or level.

@@ -2,7 +2,7 @@
 
 #include "game/moves.h"
 #include "game/scoring.h"
-#include "play/recording.h"
+#include "play/statistics.h"
 #include "play/status.h"
 #include "play/tutorial_end.h"
 #include "texts/tip_text.h"
@@ -11,19 +11,16 @@ namespace mevracard {
 
 namespace {
 
-/// Writes down who has won, on the table and in the statistics.
-/// QUIRK-43: also a demonstration that is played to its end. One would expect the
-/// statistics to hold the player's own games alone; the player finds one more there.
-void record(MainWindow& w, GameResult result) {
-  w.result.verdict.caption = result == GameResult::Won ? "You win" : "You lose";
-  recordResult(w, result);
-}
-
-void playerHasWon(MainWindow& w) {
+/// Counts the game before it is over: a message of the statistics may stand before its end.
+/// QUIRK-43: also a tutorial that is played to its end. One would expect the statistics to hold the
+/// player's own games alone; the player finds one more there.
+void endGame(MainWindow& w, GameResult result, const std::string& tip) {
   if (w.state.tutorial.running) endTutorial(w);
-  record(w, winBy(w.game, Side::Player));
+  w.result.verdict.caption = result == GameResult::Won ? "You win" : "You lose";
+  countResult(w, result);
+  w.game.ending.over = true;
+  w.state.tipText = tipHeading() + tip;
   showSums(w);
-  w.state.tipText = tipHeading() + playerWinsTip();
   showResult(w);
 }
 
@@ -32,7 +29,7 @@ void playerHasWon(MainWindow& w) {
 void afterPlayersCard(MainWindow& w) {
   w.game.ending.deadlock = false;
   if (w.game.counts.cardsLeft[Side::Player] == 0) {
-    playerHasWon(w);
+    endGame(w, winBy(w.game, Side::Player), playerWinsTip());
     return;
   }
   announce(w, Announcement::ComputersTurn);
@@ -40,22 +37,12 @@ void afterPlayersCard(MainWindow& w) {
   w.timer.arm(replyDelay);
 }
 
-void computerHasWon(MainWindow& w) {
-  if (w.state.tutorial.running) endTutorial(w);
-  record(w, winBy(w.game, Side::Computer));
-  w.state.tipText = tipHeading() + computerWinsTip();
-  showSums(w);
-  showResult(w);
-}
+void computerHasWon(MainWindow& w) { endGame(w, winBy(w.game, Side::Computer), computerWinsTip()); }
 
 void deadlock(MainWindow& w) {
-  if (w.state.tutorial.running) endTutorial(w);
-  const GameResult result = decideDeadlock(w.game);
   w.result.verdict.visible = true;  // also while a message about the statistics stands before it
   showSums(w);
-  record(w, result);
-  w.state.tipText = tipHeading() + deadlockTip();
-  showResult(w);
+  endGame(w, decideDeadlock(w.game), deadlockTip());
 }
 
 void showSums(MainWindow& w) {
@@ -64,7 +51,6 @@ void showSums(MainWindow& w) {
 }
 
 void showResult(MainWindow& w) {
-  w.game.ending.over = true;
   w.state.takesCards = false;
   w.status.visible = false;
   w.result.show(true);

@@ -16,7 +16,7 @@ void deadlock(MainWindow& w);
 
 /// Writes both sums of numbers left.
 void showSums(MainWindow& w);
-/// Ends the game: shows the result, reveals the computer's hand and freezes the table.
+/// Shows the result, reveals the computer's hand and freezes the table.
 void showResult(MainWindow& w);
 
 }  // namespace mevracard

@@ -1,7 +1,7 @@
 #include "play/game_menu.h"
 
 #include "play/new_game.h"
-#include "play/recording.h"
+#include "play/statistics.h"
 #include "texts/messages.h"
 
 namespace mevracard {
@@ -11,7 +11,7 @@ namespace {
 void countAbortedGame(MainWindow& w) {
   if (w.game.ending.over) return;
   w.say(abortMessage);
-  recordResult(w, GameResult::Lost);
+  countResult(w, GameResult::Lost);
 }
 
 }  // namespace
@@ -28,7 +28,7 @@ void chooseExit(MainWindow& w) {
 
 void endBySystem(MainWindow& w) {
   // A loss like any other, but nobody is there to be told.
-  if (!w.game.ending.over) recordResult(w, GameResult::Lost);
+  if (!w.game.ending.over) countResult(w, GameResult::Lost);
   w.desktop.end();
 }
 

@@ -4,7 +4,7 @@
 
 namespace mevracard {
 
-/// Menu New Game: a running game is told and recorded as lost, then a new one is dealt.
+/// Menu New Game: a running game is told of and counted as lost, then a new one is dealt.
 void chooseNewGame(MainWindow& w);
 /// Menu Exit, and the close box of the main window: the same, then the program ends.
 void chooseExit(MainWindow& w);

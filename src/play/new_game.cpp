@@ -17,16 +17,6 @@ namespace mevracard {
 
 namespace {
 
-/// Nothing that the game before had under way may reach the new one.
-void dropGameBefore(MainWindow& w) {
-  w.timer.disarm();
-  closeChoice(w);
-  w.game.aimsLeftBottom[Side::Player] = false;
-  w.game.aimsLeftBottom[Side::Computer] = false;
-  w.game.mind.hasPassed = false;
-  w.game.mind.bannedNumber = w.game.mind.danger = w.game.mind.secondDanger = noNumber;
-}
-
 /// QUIRK-08: the seed is the year and the sum of minute and second, nothing else: a year has at
 /// most 118 different deals. One would expect a new deal every time; a player who comes back at a
 /// minute and second of the same sum meets the same hands.
@@ -36,25 +26,24 @@ void seedRandom(MainWindow& w) {
   w.desktop.seedRandom(w.game.dealSeed);
 }
 
+Deck nextDeck(MainWindow& w) {
+  seedRandom(w);
+  if (w.stackedDeck) return *w.stackedDeck;
+  return shuffledDeck([&w] { return w.desktop.random(); });
+}
+
+/// Nothing that the game before had under way may reach the new one.
 void clearTable(MainWindow& w, double scale) {
-  w.game.ending.deadlock = false;
+  w.timer.disarm();
+  closeChoice(w);
   w.result.show(false);
-  w.game.chain.laidAt = {};
-  w.game.chain.openings = 0;
-  w.game.chain.laid.clear();
-  w.game.counts.cardsLeft = {{handSize, handSize}};
-  w.game.counts.passes = {};
   for (std::size_t i = 0; i < w.table.markers.size(); ++i) {
     putAt(w.table.markers[i], markerPark(i), scale);
   }
 }
 
 void layOutHands(MainWindow& w, double scale) {
-  const Deck deck =
-      w.stackedDeck ? *w.stackedDeck : shuffledDeck([&w] { return w.desktop.random(); });
   for (const int slot : allSlots) {
-    const auto [upper, lower] = deck[static_cast<std::size_t>(slot)];
-    w.game.card(slot) = {upper, lower, true};
     putAt(w.card(slot).frame, handPlace(slot), scale);
     w.card(slot).frame.backColor = handColour;
     w.card(slot).paintNumbers(handColour);
@@ -82,7 +71,7 @@ void passOpening(MainWindow& w) {
   if (w.state.tutorial.running) {
     // Else the tick after its OK would take the opening for a demonstrated move.
     w.state.demo.done = false;
-    giveUpDemonstration(w);
+    giveUpDemonstratedMove(w);
   }
   announcePlayersPass(w);
 }
@@ -117,11 +106,9 @@ void startAnotherGame(MainWindow& w) {
 }
 
 void deal(MainWindow& w) {
-  TableState& s = w.state;
-  dropGameBefore(w);
-  const bool firstDeal = !s.newGameAsked;
+  const bool firstDeal = !w.state.newGameAsked;
   const double scale = firstDeal ? 1.0 : w.scale();
-  seedRandom(w);
+  deal(w.game, nextDeck(w));
   clearTable(w, scale);
   layOutHands(w, scale);
   if (firstDeal) rescaleTable(w, w.scale());

@@ -42,8 +42,9 @@ void placeTips(MainWindow& w) {
   w.about.form.top = tipsTop;
 }
 
-/// Nothing but its OK is to be pressed.
-void openPassTip(MainWindow& w) {
+/// Opens the tips; nothing but their OK is to be pressed.
+void waitForOk(MainWindow& w) {
+  w.state.passAwaitsOk = true;
   placeTips(w);
   w.about.ok.visible = true;
   showTips(w);
@@ -54,27 +55,23 @@ void openPassTip(MainWindow& w) {
 }  // namespace
 
 void announceComputersPass(MainWindow& w) {
-  TableState& s = w.state;
   bringStatusToFront(w);
   announce(w, Announcement::ComputerPasses);
   selectLastCard(w);
   w.say(computerPassesMessage);
   announce(w, Announcement::YourTurn);
-  if (s.tutorial.running) s.tutorial.nextIsComputers = false;
-  s.tipText = tipHeading() + computerPassTip(w.game.chain.openNumber[End::RightTop],
-                                             w.game.chain.openNumber[End::LeftBottom]);
+  if (w.state.tutorial.running) w.state.tutorial.nextIsComputers = false;
+  resetTip(w);
+  appendTip(w, computerPassTip);
   closeTurn(w);
 }
 
 void announcePlayersPass(MainWindow& w) {
-  TableState& s = w.state;
   announce(w, Announcement::YouPass);
-  if (s.tutorial.running) s.tutorial.nextIsComputers = true;
+  if (w.state.tutorial.running) w.state.tutorial.nextIsComputers = true;
   selectLastCard(w);
-  s.tipText += playerPassTip(w.game.chain.openNumber[End::RightTop],
-                             w.game.chain.openNumber[End::LeftBottom]);
-  s.passAwaitsOk = true;
-  openPassTip(w);
+  appendTip(w, playerPassTip);
+  waitForOk(w);
 }
 
 void acknowledgePass(MainWindow& w) {
@@ -92,7 +89,7 @@ void acknowledgePass(MainWindow& w) {
 }
 
 void closeTurn(MainWindow& w) {
-  // QUIRK-10: a deadlock that was decided just before is recorded a second time here. One would
+  // QUIRK-10: a deadlock that was decided just before is counted a second time here. One would
   // expect one loss a game; the statistics count two.
   if (w.game.counts.cardsLeft[Side::Computer] == 0) computerHasWon(w);
   if (turnWasPlain(w)) appendGeneralTip(w);

@@ -67,7 +67,7 @@ void glideCard(MainWindow& w, int slot) {
   const double step = std::floor(distance / 5);
   if (step == 0) return;
   const double slope = (target.top * scale - top0) / distance;
-  const Position from{frame.left, frame.top};
+  const WindowPoint from{frame.left, frame.top};
   for (double x = left0; step > 0 ? x <= left1 : x >= left1; x += step) {
     frame.left = static_cast<float>(x);
     frame.top = static_cast<float>(top0 + slope * (x - left0));

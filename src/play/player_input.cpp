@@ -3,9 +3,9 @@
 #include "game/rules.h"
 #include "platform/event.h"
 #include "play/choice.h"
+#include "play/choice_answers.h"
 #include "play/ending.h"
 #include "play/placement.h"
-#include "play/same_number_choice.h"
 #include "play/size_panel.h"
 #include "play/status.h"
 #include "play/tips.h"
@@ -51,11 +51,12 @@ void refuseCard(MainWindow& w, bool replyWasDue) {
 
 /// QUIRK-36: takes a card also while the computer's reply is due. One would expect the player to
 /// wait; several cards laid in time meet one reply, a second after the last of them.
+/// QUIRK-17: also while the choice is open. One would expect the choice to come first; the card
+/// goes to the Right/Top end.
 void laySelectedCard(MainWindow& w) {
-  TableState& s = w.state;
-  const int card = s.selectedCard;
-  if (!w.game.card(card).held) return;
-  s.selectedCard = noSelection;
+  const int card = w.state.selectedCard;
+  if (card == noSelection || !gameTakesCards(w) || !w.game.card(card).held) return;
+  w.state.selectedCard = noSelection;
   const bool replyWasDue = w.timer.enabled;
   if (layCard(w, card, Side::Player)) {
     afterPlayersCard(w);
@@ -100,8 +101,7 @@ void doubleClickCard(MainWindow& w, int card) {
   // One would expect the same of both.
   if (w.game.counts.cardsLeft[Side::Player] > 1 && offersChoice(w.game, card)) {
     openChoice(w, card);
-    s.tipText += sameNumberTip(w.game.chain.openNumber[End::RightTop],
-                               w.game.chain.openNumber[End::LeftBottom]);
+    appendTip(w, sameNumberTip);
   } else {
     pressDiscard(w);
   }
@@ -110,12 +110,9 @@ void doubleClickCard(MainWindow& w, int card) {
 }
 
 void pressDiscard(MainWindow& w) {
-  TableState& s = w.state;
   closePanelIfOpen(w);
-  // QUIRK-17: also while the choice is open. One would expect the choice to come first; Discard
-  // lays the selected card at the Right/Top end.
-  if (s.selectedCard != noSelection && gameTakesCards(w)) laySelectedCard(w);
-  s.lastOffer.laid = false;
+  laySelectedCard(w);
+  w.state.lastOffer.laid = false;
 }
 
 void pressDiscardUnlessAsked(MainWindow& w) {

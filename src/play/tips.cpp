@@ -13,12 +13,15 @@ constexpr std::string_view windowHeading =
 
 void resetTip(MainWindow& w) { w.state.tipText = tipHeading(); }
 
+void appendTip(MainWindow& w, std::string (*tip)(int first, int second)) {
+  const auto& open = w.game.chain.openNumber;
+  w.state.tipText += tip(open[End::RightTop], open[End::LeftBottom]);
+}
+
 void appendGeneralTip(MainWindow& w) {
-  TableState& s = w.state;
   // QUIRK-15: nothing is reset here, so with the keyboard alone the tip grows turn by turn. One
   // would expect the last turn's tip only; the player reads the earlier ones above it.
-  s.tipText +=
-      generalTip(w.game.chain.openNumber[End::RightTop], w.game.chain.openNumber[End::LeftBottom]);
+  appendTip(w, generalTip);
 }
 
 void openTips(MainWindow& w) {

@@ -6,7 +6,8 @@ namespace mevracard {
 
 /// Sets the tip text to its heading.
 void resetTip(MainWindow& w);
-/// Appends the general tip to the tip text.
+/// Appends a tip that names the open numbers to the tip text; the general one.
+void appendTip(MainWindow& w, std::string (*tip)(int first, int second));
 void appendGeneralTip(MainWindow& w);
 /// Shows the window with the tips heading and a copy of the tip text, where it was last placed.
 void showTips(MainWindow& w);

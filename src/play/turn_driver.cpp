@@ -1,7 +1,7 @@
 #include "play/turn_driver.h"
 
 #include "play/computer_turn.h"
-#include "play/demonstration.h"
+#include "play/demonstrated_move.h"
 #include "play/status.h"
 
 namespace mevracard {
@@ -11,7 +11,7 @@ namespace {
 /// QUIRK-41: before the first demonstrated move, the tick after a pass finds it done. One would
 /// expect the line to name the computer; the player reads "Your Turn", and NEXT lets the computer
 /// move.
-void takeDemonstrationForOver(MainWindow& w) {
+void takeMoveForOver(MainWindow& w) {
   announce(w, Announcement::YourTurn);
   showStatusInFront(w);
   w.state.tutorial.computerWaitsForNext = false;
@@ -25,7 +25,7 @@ void tick(MainWindow& w) {
   if (!w.form.enabled) return;
   if (s.tutorial.nextIsComputers) {
     if (s.demo.done) {
-      takeDemonstrationForOver(w);
+      takeMoveForOver(w);
     } else {
       demonstrate(w);
     }

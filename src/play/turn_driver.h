@@ -4,7 +4,7 @@
 
 namespace mevracard {
 
-/// A tick of the timer: the computer's reply, or a step of the tutorial's demonstration.
+/// A tick of the timer: the computer's reply, or a step of a demonstrated move.
 void tick(MainWindow& w);
 
 }  // namespace mevracard

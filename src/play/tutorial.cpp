@@ -5,7 +5,7 @@
 #include "ai/computer_moves.h"
 #include "game/rules.h"
 #include "play/computer_turn.h"
-#include "play/demonstration.h"
+#include "play/demonstrated_move.h"
 #include "play/new_game.h"
 #include "play/tips.h"
 #include "play/tutorial_end.h"
@@ -49,7 +49,7 @@ void letComputerMove(MainWindow& w) {
 /// The marks of the given-up move go, or the player would take them for the next one's.
 void giveUpMove(MainWindow& w) {
   for (CardControls& card : w.cards) card.paintNumbers(handColour);
-  giveUpDemonstration(w);
+  giveUpDemonstratedMove(w);
   letComputerMove(w);
 }
 

@@ -4,7 +4,7 @@
 
 namespace mevracard {
 
-/// Menu HowToPlay: starts the demonstration game, the running one uncounted.
+/// Menu HowToPlay: starts the tutorial, the running game uncounted.
 void startTutorial(MainWindow& w);
 /// NEXT: lets the computer move, or demonstrates a move of the player's.
 void pressNext(MainWindow& w);

@@ -2,7 +2,7 @@
 
 namespace mevracard {
 
-void giveUpDemonstration(MainWindow& w) {
+void giveUpDemonstratedMove(MainWindow& w) {
   constexpr int pastTheEnd = 1'000'000;
   w.state.demo.busy = false;
   w.state.demo.tick = pastTheEnd;

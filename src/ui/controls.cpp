@@ -37,7 +37,7 @@ void Result::show(bool ended) {
 }
 
 void Tutorial::show(bool running) {
-  guide.visible = running;
+  instruction.visible = running;
   next.visible = running;
   stop.visible = running;
   hint.visible = running;

@@ -75,7 +75,7 @@ struct Result {
 
 /// The how-to-play tutorial.
 struct Tutorial {
-  Label guide, hint;
+  Label instruction, hint;
   Button next, stop;
 
   void show(bool running);

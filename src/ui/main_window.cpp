@@ -46,7 +46,8 @@ void MainWindow::refresh() {
     showNumber(table.cardsLeft[side].count, game.counts.cardsLeft[side]);
     showNumber(table.passes[side].count, game.counts.passes[side]);
   }
-  form.growth = std::max(1.0, static_cast<double>(largestTableSize) / std::max(1, state.tableSize));
+  form.headroom =
+      std::max(1.0, static_cast<double>(largestTableSize) / std::max(1, state.tableSize));
   discard.visible = state.takesCards;
   result.deadlock.visible = game.ending.deadlock;
   menu.playerLevel1.checked = game.levels.player == 1;

@@ -30,7 +30,7 @@ const LabelLook cardNumber{paleGreen, black, small, centred};
 const LabelLook statusLine{lightOrange, red, statusFont, centred};
 const LabelLook resultText{lightOrange, red, resultFont};
 const LabelLook resultBox{lightOrange, red, resultFont, centred, true};
-const LabelLook guide{salmon, darkRed, small, centred};
+const LabelLook instruction{salmon, darkRed, small, centred};
 const LabelLook hint{orange, black, plain, centred};
 const LabelLook panelHeading{paleGreen, darkGreen, small, centred};
 const LabelLook panelScale{paleGreen, black, smallItalic};
@@ -115,7 +115,8 @@ void designResult(Result& result) {
 }
 
 void designTutorial(Tutorial& tutorial) {
-  design(tutorial.guide, { 600, 2280, 2535, 975}, " Click NEXT to go to the following step", guide);
+  design(tutorial.instruction, { 600, 2280, 2535, 975},
+         " Click NEXT to go to the following step", instruction);
   design(tutorial.next,  {1200, 2880,  975, 375}, "NEXT >");
   design(tutorial.stop,  {2280, 2880,  495, 375}, "Stop");
   design(tutorial.hint,  { 600, 3240, 2535, 375}, "See Tips of Game for Help", hint);
@@ -226,7 +227,7 @@ void addPanel(Form& form, Control& control, std::string_view name) {
 }
 
 void addTutorial(Form& form, Tutorial& tutorial) {
-  addPanel(form, tutorial.guide, "lblHow");
+  addPanel(form, tutorial.instruction, "lblHow");
   addPanel(form, tutorial.next, "cmdHow");
   addPanel(form, tutorial.stop, "cmdCL");
   addPanel(form, tutorial.hint, "gttip");

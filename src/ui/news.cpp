@@ -18,14 +18,14 @@ News::Told News::all(const Game& game, const TableState& state) {
   if (state.sizePanelOpen) all.size = state.tableSize;
   all.pass = state.passAwaitsOk;
   all.over = game.ending.over;
-  all.demonstration = state.tutorial.running;
+  all.tutorial = state.tutorial.running;
   return all;
 }
 
 void News::startAnew() {
   const Told before = std::exchange(told_, {});
   told_.size = before.size;
-  told_.demonstration = before.demonstration;
+  told_.tutorial = before.tutorial;
   moves_.clear();
   laid_ = false;
 }
@@ -56,8 +56,8 @@ std::string News::tell(const Game& game, const TableState& state) {
   noteMoves(game);
   if (told_.size && !now.size) answerIsDue_ = true;
   std::string words;
-  if (told_.demonstration && !now.demonstration && !now.over) words += demonstrationEnds();
-  if (!told_.demonstration && now.demonstration) words += demonstrationBegins();
+  if (told_.tutorial && !now.tutorial && !now.over) words += tutorialEnds();
+  if (!told_.tutorial && now.tutorial) words += tutorialBegins();
   words += moves_;
   // Else a message box has told it.
   if (now.over && now.computersPasses > told_.computersPasses) words += "Computer passes. ";
@@ -78,7 +78,7 @@ std::string News::selection(const Game& game, const TableState& state) const {
 }
 
 std::string News::ending(const Game& game) const {
-  return resultWords(game) + (told_.demonstration ? demonstrationEnds() : "");
+  return resultWords(game) + (told_.tutorial ? tutorialEnds() : "");
 }
 
 std::string News::situation(const Game& game, const TableState& state, const Told& now) const {

@@ -29,7 +29,7 @@ class News {
     std::optional<int> size;           ///< in the open panel
     bool pass = false;
     bool over = false;
-    bool demonstration = false;
+    bool tutorial = false;
   };
 
   [[nodiscard]] static Told all(const Game& game, const TableState& state);

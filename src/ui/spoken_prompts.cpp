@@ -51,19 +51,16 @@ std::string passWords() {
 }
 
 std::string shownCard(const Game& game, int slot) {
-  const Card& card = game.card(slot);
-  const std::string shown = "Shown: " + nameOf(card) + ". ";
-  for (const End end : {End::RightTop, End::LeftBottom}) {
-    if (card.bears(game.chain.openNumber[end])) return shown + fitWords(game.chain, end);
-  }
-  return shown + "It does not fit. ";
+  const auto end = firstFit(game, slot);
+  return "Shown: " + nameOf(game.card(slot)) + ". " +
+         (end ? fitWords(game.chain, *end) : "It does not fit. ");
 }
 
-std::string demonstrationBegins() {
+std::string tutorialBegins() {
   return "The demonstration begins: Next shows one move after the other, Stop ends it. ";
 }
 
-std::string demonstrationEnds() { return "The demonstration is over. "; }
+std::string tutorialEnds() { return "The demonstration is over. "; }
 
 std::string panelWords(const TableState& state) {
   return "Size of the table: " + std::to_string(state.tableSize) +

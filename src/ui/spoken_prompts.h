@@ -19,11 +19,11 @@ namespace mevracard {
 /// The player's pass, which waits for OK.
 [[nodiscard]] std::string passWords();
 
-/// The card that the demonstration is about to lay: "Shown: 3-5. Its 5 fits the 5 at Right/Top. "
+/// The card of the demonstrated move: "Shown: 3-5. Its 5 fits the 5 at Right/Top. "
 [[nodiscard]] std::string shownCard(const Game& game, int slot);
 
-[[nodiscard]] std::string demonstrationBegins();
-[[nodiscard]] std::string demonstrationEnds();
+[[nodiscard]] std::string tutorialBegins();
+[[nodiscard]] std::string tutorialEnds();
 
 /// The screen-size panel that has opened.
 [[nodiscard]] std::string panelWords(const TableState& state);

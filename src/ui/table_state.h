@@ -33,7 +33,7 @@ struct TutorialState {
 
 /// The demonstrated move: the pointer goes from `start` to `start + offset`, then the card is laid.
 /// Both count in pixels of 15 twips.
-struct Demonstration {
+struct DemonstratedMove {
   bool busy = false;  ///< a move is being shown
   bool done = false;  ///< set by the opening, until a move is begun
   int card = 0;       ///< to be laid
@@ -66,7 +66,7 @@ struct TableState {
   std::string tipText = "0";  ///< the current situation tip, lines end with a carriage return
 
   TutorialState tutorial;
-  Demonstration demo;
+  DemonstratedMove demo;
 
   SavedLevels savedLevels;
   bool newGameAsked = false;  ///< since the start; the first deal sizes the table

@@ -107,7 +107,7 @@ TEST(Menus, AnswerAccessKeys) {
 
 // The system's own pointer must end on the marked number wherever the card stands and at every
 // size.
-TEST(Demonstration, EndsOnTheMarkedNumber) {
+TEST(Tutorial, EndsOnTheMarkedNumber) {
   for (const auto& [column, settings] : {std::pair{0, "1/1/99"}, {6, "1/1/70"}, {13, "1/1/99"}}) {
     SCOPED_TRACE(column);
     Screen screen(settings);
@@ -125,7 +125,7 @@ TEST(Demonstration, EndsOnTheMarkedNumber) {
     const Label& marked = w.card(column).lower;
     const QRect target = screen.windowOf(w.form).placeOnScreen(marked);
     EXPECT_EQ(marked.backColor, (Color{255, 0, 0}));
-    if (column == 6) Screen::shoot("demonstration");
+    if (column == 6) Screen::shoot("tutorial");
     ASSERT_TRUE(waitFor([&] { return !w.state.demo.busy; }));
     EXPECT_TRUE(target.contains(QCursor::pos()))
         << QCursor::pos().x() << ", " << QCursor::pos().y();

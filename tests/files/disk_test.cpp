@@ -34,19 +34,19 @@ class Home {
   [[nodiscard]] fs::path root() const { return root_; }
   [[nodiscard]] fs::path game() const { return root() / "mevracard"; }
   [[nodiscard]] fs::path settings() const { return game() / settingsFile; }
-  [[nodiscard]] fs::path record() const { return game() / statisticsFile; }
+  [[nodiscard]] fs::path statistics() const { return game() / statisticsFile; }
 
-  void fill(const std::string& settingsText, const std::string& recordText) const {
+  void fill(const std::string& settingsText, const std::string& statisticsText) const {
     fs::create_directory(game());
     std::ofstream(settings(), std::ios::binary) << settingsText;
-    std::ofstream(record(), std::ios::binary) << recordText;
+    std::ofstream(statistics(), std::ios::binary) << statisticsText;
   }
 
  private:
   std::string root_ = (fs::temp_directory_path() / "mevracard-test.XXXXXX").string();
 };
 
-// A write must be whole, keep the permissions and lose no record that another program completed in
+// A write must be whole, keep the permissions and lose no result that another program completed in
 // between. A file that is missing for a reason does not come back unasked, and what is no plain
 // file is refused and stays.
 TEST(DataFiles, AreReplacedWholeOrNotAtAll) {
@@ -104,11 +104,11 @@ TEST(DataFiles, WaitForWhatPasses) {
 
 struct Situation {
   const char* name;
-  std::string settings, record;        ///< before; both empty: a first start
-  std::string newSettings, newRecord;  ///< as they are written
-  void (*act)(Program&);               ///< null: what is looked at is the start itself
-  bool told;                           ///< whether the rule has a message for a failure
-  int syncs;                           ///< what has to lie on the disk, each file and its name
+  std::string settings, statistics;        ///< before; both empty: a first start
+  std::string newSettings, newStatistics;  ///< as they are written
+  void (*act)(Program&);                   ///< null: what is looked at is the start itself
+  bool told;                               ///< whether the rule has a message for a failure
+  int syncs;                               ///< what has to lie on the disk, each file and its name
 };
 
 const std::string someGames = withResult(emptyStatisticsText(), GameResult::Won);
@@ -132,7 +132,7 @@ const Situation situations[] = {
 bool playWithFailure(const Situation& situation, const char* call, int first, bool onwards) {
   const Home home;
   const bool firstStart = situation.settings.empty();
-  if (!firstStart) home.fill(situation.settings, situation.record);
+  if (!firstStart) home.fill(situation.settings, situation.statistics);
   int errors = 0;
   bool happened = false;
   const auto sink = [&errors](std::string_view line) { errors += line.starts_with("> error"); };
@@ -151,10 +151,11 @@ bool playWithFailure(const Situation& situation, const char* call, int first, bo
     happened = failing.happened();
   }
   const std::string settings = bytesOf(home.settings());
-  const std::string record = bytesOf(home.record());
+  const std::string statistics = bytesOf(home.statistics());
   EXPECT_TRUE(settings == situation.settings || settings == situation.newSettings) << settings;
-  EXPECT_TRUE(record == situation.record || record == situation.newRecord) << record;
-  const bool written = settings == situation.newSettings && record == situation.newRecord;
+  EXPECT_TRUE(statistics == situation.statistics || statistics == situation.newStatistics)
+      << statistics;
+  const bool written = settings == situation.newSettings && statistics == situation.newStatistics;
   EXPECT_TRUE(happened || written);
   EXPECT_LE(errors, 1);
   EXPECT_TRUE(situation.told || errors == 0);
@@ -163,7 +164,7 @@ bool playWithFailure(const Situation& situation, const char* call, int first, bo
     EXPECT_EQ(fs::status(home.game()).permissions(), fs::perms::owner_all);
   }
   const int files =
-      fs::exists(home.game()) ? (settings.empty() ? 0 : 1) + (record.empty() ? 0 : 1) : 0;
+      fs::exists(home.game()) ? (settings.empty() ? 0 : 1) + (statistics.empty() ? 0 : 1) : 0;
   EXPECT_EQ(entriesIn(home.game()), files);
   EXPECT_EQ(entriesIn(home.root()), fs::exists(home.game()) ? 1 : 0);
   return happened;
@@ -210,7 +211,7 @@ TEST(DataFiles, StayWholeWhateverFails) {
   EXPECT_EQ(failed.size(), 6U);
 }
 
-/// Starts the game, then changes levels and records results until it is killed.
+/// Starts the game, then changes levels and counts results until it is killed.
 [[noreturn]] void playUntilKilled(const fs::path& directory) {
   DiskDesktop desktop(directory);
   Program program(desktop);
@@ -248,14 +249,14 @@ TEST(DataFiles, OutliveAHundredKills) {
     if (fs::exists(home.game())) {
       const std::string text = bytesOf(home.settings());
       ASSERT_TRUE(text == "1/1/99\r\n" || text == "2/1/99\r\n") << text;
-      ASSERT_EQ(bytesOf(home.record()).size(), emptyStatisticsText().size());
-      ASSERT_GE(statisticsOf(bytesOf(home.record())).lost, lost);
+      ASSERT_EQ(bytesOf(home.statistics()).size(), emptyStatisticsText().size());
+      ASSERT_GE(statisticsOf(bytesOf(home.statistics())).lost, lost);
     }
     DiskDesktop next(home.game());
     next.completeFiles();
     ASSERT_EQ(entriesIn(home.game()), 2);
     ASSERT_EQ(entriesIn(home.root()), 1);
-    lost = statisticsOf(bytesOf(home.record())).lost;
+    lost = statisticsOf(bytesOf(home.statistics())).lost;
   }
   EXPECT_EQ(kills, 100);
 }

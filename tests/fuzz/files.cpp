@@ -48,7 +48,7 @@ struct Run {
   MainWindow& w = program.window();
 };
 
-/// A new game in the middle of one is a loss more; what follows the record stays.
+/// A new game in the middle of one is a loss more; what follows the statistics stays.
 void loseAGame(Run& run) {
   const std::string before = run.file(statisticsFile);
   run.desktop.menu(run.w.menu.newGame);
@@ -79,7 +79,7 @@ void clearStatistics(Run& run) {
 }  // namespace mevracard
 
 /// The first byte: in bits 0 to 3 the length of the settings file; bits 4 and 5 leave out the
-/// settings, the record. The other bytes: the settings, then the record.
+/// settings, the statistics. The other bytes: the settings, then the statistics.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace mevracard;
   if (size == 0) return 0;
@@ -98,7 +98,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     demand(run.w.menu.playerLevel1.checked && run.w.menu.computerLevel1.checked,
            "both levels are 1 by default");
     demand(run.file(settingsFile) == "1/1/99\r\n", "the settings are made anew");
-    demand(run.file(statisticsFile) == emptyStatisticsText(), "and so is the record");
+    demand(run.file(statisticsFile) == emptyStatisticsText(), "and so is the statistics");
   }
   loseAGame(run);
   run.checkNextStart();

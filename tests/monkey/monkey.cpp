@@ -150,7 +150,7 @@ class Monkey {
     if (lot < 70) return typeKey();
     if (lot < 90) return wait();
     if (lot < 98) return useWindow();
-    if (endCame_) return;  // what it has recorded is still to be read
+    if (endCame_) return;  // what it has counted is still to be read
     if (lot < 99 || !oneIn(4)) return tearFile();
     endSession();
   }
@@ -158,7 +158,7 @@ class Monkey {
   void endSession() {
     note("the session ends");
     endCame_ = true;
-    recordBefore_ = record();
+    statisticsBefore_ = statistics();
     if (oneIn(2)) return (void)std::raise(SIGTERM);
     QEvent quit(QEvent::Quit);
     QCoreApplication::sendEvent(qApp, &quit);
@@ -166,12 +166,13 @@ class Monkey {
 
   /// A game that was under way is lost, once; one that was over is not.
   void checkEnd() const {
-    if (record() != recordBefore_ && record() != withResult(recordBefore_, GameResult::Lost)) {
+    if (statistics() != statisticsBefore_ &&
+        statistics() != withResult(statisticsBefore_, GameResult::Lost)) {
       fail("broken: the session's end is no single loss");
     }
   }
 
-  [[nodiscard]] std::string record() const {
+  [[nodiscard]] std::string statistics() const {
     QFile file(files_ + '/' + statisticsFile.data());
     // At a first start it is not there yet.
     return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : emptyStatisticsText();
@@ -374,7 +375,7 @@ class Monkey {
   Qt::MouseButtons down_;
   bool endCame_ = false;  ///< the session's: the program is to end at once
   int turnsSince_ = 0;    ///< of the event loop
-  std::string recordBefore_;
+  std::string statisticsBefore_;
 };
 
 }  // namespace

@@ -42,7 +42,7 @@ class Table {
   void lay() {
     back_.visible = false;
     for (std::size_t i = 0; i < cards_.size(); ++i) {
-      const Position from{cards_[i].left, cards_[i].top};
+      const WindowPoint from{cards_[i].left, cards_[i].top};
       cards_[i].left += 600;
       cards_[i].top = 3000;
       numbers_[i].caption = "4";

@@ -1,16 +1,17 @@
-// The texts of the two data files: what is read from odd ones, and the record's arithmetic.
+// The texts of the two data files: what is read from odd ones, and the statistics' arithmetic.
 #include <gtest/gtest.h>
 
 #include "app/program.h"
 #include "platform/headless/headless_desktop.h"
-#include "play/recording.h"
+#include "play/statistics.h"
 #include "store/digit_code.h"
 #include "store/settings.h"
+#include "store/statistics.h"
 
 namespace mevracard {
 namespace {
 
-std::string record(std::string_view digits, std::string_view rest = "") {
+std::string statistics(std::string_view digits, std::string_view rest = "") {
   return encodeDigits(digits) + std::string(rest) + "\r\n";
 }
 
@@ -52,7 +53,7 @@ TEST(Settings, AreReadByPosition) {
   EXPECT_EQ(settingsText({2, std::nullopt}, 100), "2//100\r\n");
 }
 
-// Records of years are kept in this code, 000000 to 999999; another would read them wrongly.
+// Statistics of years are kept in this code, 000000 to 999999; another would read them wrongly.
 TEST(DigitCode, StaysTheOneOfTheFiles) {
   constexpr std::array<std::string_view, 10> codes{
       "547153507498", "913036954439", "101523677278", "693915462419", "597037485781",
@@ -66,45 +67,47 @@ TEST(DigitCode, StaysTheOneOfTheFiles) {
   EXPECT_EQ(decodeDigits(encodeDigits("123456") + "99999999"), "123456");
 }
 
-TEST(Statistics, CountAndKeepWhatFollowsTheRecord) {
-  EXPECT_EQ(withResult(record("000000"), GameResult::Won), record("001000"));
-  EXPECT_EQ(withResult(record("009099", "tail"), GameResult::Lost), record("009100", "tail"));
-  EXPECT_EQ(withoutResults(record("012345", "tail")), record("000000", "tail"));
-  EXPECT_FALSE(countsAreFull(record("499499")));
-  EXPECT_EQ(withResult(encodeDigits("000000") + "\n", GameResult::Won), record("001000"));
+TEST(Statistics, CountAndKeepWhatFollowsTheCounts) {
+  EXPECT_EQ(withResult(statistics("000000"), GameResult::Won), statistics("001000"));
+  EXPECT_EQ(withResult(statistics("009099", "tail"), GameResult::Lost),
+            statistics("009100", "tail"));
+  EXPECT_EQ(withoutResults(statistics("012345", "tail")), statistics("000000", "tail"));
+  EXPECT_FALSE(countsAreFull(statistics("499499")));
+  EXPECT_EQ(withResult(encodeDigits("000000") + "\n", GameResult::Won), statistics("001000"));
   const std::string much(8'000'000, 'z');
-  EXPECT_EQ(withResult(record("000000", much), GameResult::Won), record("001000", much));
+  EXPECT_EQ(withResult(statistics("000000", much), GameResult::Won), statistics("001000", much));
 }
 
-// QUIRK-28: at 999 games the counts begin again and the record holds the single digit 1, whoever
+// QUIRK-28: at 999 games the counts begin again and the file holds the single digit 1, whoever
 // won; the next reading takes that digit for both counts.
 TEST(Statistics, StartAgainAt999) {
-  const std::string full = record("500499", "tail");
+  const std::string full = statistics("500499", "tail");
   EXPECT_TRUE(countsAreFull(full));
   for (const GameResult result : {GameResult::Won, GameResult::Lost}) {
     EXPECT_EQ(withResult(full, result), encodeDigits("1") + "tail\r\n");
   }
-  EXPECT_EQ(statisticsOf(record("1")).won, 1);
-  EXPECT_EQ(statisticsOf(record("1")).lost, 1);
-  EXPECT_EQ(statisticsOf(record("002000")).wonPercent, 100);
-  EXPECT_EQ(statisticsOf(record("000002")).lostPercent, 100);
-  EXPECT_EQ(withResult(record("1"), GameResult::Won), encodeDigits("0021") + "\r\n");
+  EXPECT_EQ(statisticsOf(statistics("1")).won, 1);
+  EXPECT_EQ(statisticsOf(statistics("1")).lost, 1);
+  EXPECT_EQ(statisticsOf(statistics("002000")).wonPercent, 100);
+  EXPECT_EQ(statisticsOf(statistics("000002")).lostPercent, 100);
+  EXPECT_EQ(withResult(statistics("1"), GameResult::Won), encodeDigits("0021") + "\r\n");
 }
 
-// Another program's record that comes while the box of 999 games waits is the one that is added to,
+// another program's result that comes while the box of 999 games waits is the one that is added to,
 // and full again it brings no second box.
 TEST(Statistics, AddToWhatAnotherProgramWroteMeanwhile) {
-  for (const auto& [meanwhile, after] : {std::pair{record("001002"), record("002002")},
-                                         std::pair{record("501499"), encodeDigits("1") + "\r\n"}}) {
+  for (const auto& [meanwhile, after] :
+       {std::pair{statistics("001002"), statistics("002002")},
+        std::pair{statistics("501499"), encodeDigits("1") + "\r\n"}}) {
     int boxes = 0;
     HeadlessDesktop desktop([&, &other = meanwhile](std::string_view line) {
       if (!line.starts_with("> message")) return;
       ++boxes;
       desktop.world.files[std::string(statisticsFile)] = other;
     });
-    desktop.world.files[std::string(statisticsFile)] = record("500499");
+    desktop.world.files[std::string(statisticsFile)] = statistics("500499");
     MainWindow w(desktop);
-    recordResult(w, GameResult::Won);
+    countResult(w, GameResult::Won);
     EXPECT_EQ(desktop.readFile(statisticsFile), after);
     EXPECT_EQ(boxes, 1);
   }
@@ -118,7 +121,7 @@ TEST(SystemEnd, IsALossOfARunningGame) {
     HeadlessDesktop desktop(
         [&](std::string_view line) { messages += line.starts_with("> message"); });
     desktop.world.files[std::string(settingsFile)] = "2/1/80\r\n";
-    desktop.world.files[std::string(statisticsFile)] = record("001002");
+    desktop.world.files[std::string(statisticsFile)] = statistics("001002");
     Program program(desktop);
     program.start();
     program.window().game.ending.over = over;

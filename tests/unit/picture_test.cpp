@@ -16,7 +16,7 @@ constexpr int side = 24;  // dots of a window, of 15 twips each
 Picture show(const Form& form) {
   const View plain = View::plain(1);
   return pictureOf(form, {plain, plain, {0, 0, side, side}}, [](const Frame& frame) {
-    return Position{frame.left, frame.top};
+    return WindowPoint{frame.left, frame.top};
   });
 }
 
@@ -95,7 +95,7 @@ TEST(Picture, KeepsPanelsOffWhatMustBeRead) {
           views.table.line(w.table.border[0]).joined(views.table.line(w.table.border[1]));
       EXPECT_TRUE(table.holds(ground) || !table.meets(ground));
       const Picture picture = pictureOf(w.form, views, [](const Frame& frame) {
-        return Position{frame.left, frame.top};
+        return WindowPoint{frame.left, frame.top};
       });
       EXPECT_EQ(picture.back().control, &w.status);
       EXPECT_EQ(picture.back().room, picture.back().place);

@@ -85,7 +85,7 @@ void addPicture(Lines& lines, const Form& form, const Size& size) {
   lines.push_back("in " + std::to_string(size.width) + "x" + std::to_string(size.height));
   const Views views = viewsOf(form, {0, 0, size.width, size.height}, size.ratio, size.growth);
   for (const Item& item : pictureOf(form, views, [](const Frame& frame) {
-         return Position{frame.left, frame.top};
+         return WindowPoint{frame.left, frame.top};
        })) {
     lines.push_back(itemText(item));
   }

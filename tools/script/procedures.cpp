@@ -4,15 +4,15 @@
 
 #include "ai/evaluation.h"
 #include "game/rules.h"
+#include "play/choice_answers.h"
 #include "play/computer_turn.h"
-#include "play/demonstration.h"
+#include "play/demonstrated_move.h"
 #include "play/ending.h"
 #include "play/new_game.h"
 #include "play/opening.h"
 #include "play/passing.h"
 #include "play/placement.h"
 #include "play/player_input.h"
-#include "play/same_number_choice.h"
 #include "play/size_panel.h"
 #include "play/status.h"
 #include "play/table_size.h"
@@ -34,6 +34,11 @@ void uncoverPlayCard(MainWindow& w) { w.card(w.state.lastOffer.card).uncover(); 
 void glidePlayCard(MainWindow& w) { glideCard(w, w.state.lastOffer.card); }
 void openGame(MainWindow& w) { (void)openWithDoubleZero(w); }
 
+void showEnd(MainWindow& w) {
+  w.game.ending.over = true;
+  showResult(w);
+}
+
 /// Called by hand with cards left, which play never does, it hands the turn back to the player.
 void endWithComputersHand(MainWindow& w) {
   if (w.game.counts.cardsLeft[Side::Computer] == 0) return computerHasWon(w);
@@ -52,7 +57,7 @@ constexpr std::array plain{
     Plain{"computer_akhir", endWithComputersHand},
     Plain{"deadlock", deadlock},
     Plain{"Hitung", showSums},
-    Plain{"akhirmain", showResult},
+    Plain{"akhirmain", showEnd},
     Plain{"komputer", takeComputersTurn},
     Plain{"lastmove", closeTurn},
     Plain{"BukaCover", uncoverPlayCard},

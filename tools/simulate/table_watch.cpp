@@ -72,7 +72,7 @@ const char* TableWatch::aboutChain() {
   if (computers > 0 && !replyWasDue_ && !w_.state.tutorial.running)
     return "the computer waits its turn";
   if (game.chain.openNumber != open_)
-    return "the active numbers are those that the chain's ends show";
+    return "the open numbers are those that the chain's ends show";
   if (game.chain.endCard != endCard_) return "the end cards are the last ones laid there";
   return nullptr;
 }

@@ -70,7 +70,7 @@ QRect Canvas::toPixels(const Dots& dots) const {
       .adjusted(-1, -1, 1, 1);
 }
 
-QPoint Canvas::toPixels(Position twips) const {
+QPoint Canvas::toPixels(WindowPoint twips) const {
   const QPointF dots(views_.table.x(twips.left), views_.table.y(twips.top));
   return (dots / devicePixelRatioF()).toPoint();
 }

@@ -35,7 +35,7 @@ class Canvas final : public QWidget {
   /// How high it has to be, in logical pixels, for its text to be seen at once.
   [[nodiscard]] int heightOfAll();
   /// Logical pixels from the canvas' corner.
-  [[nodiscard]] QPoint toPixels(Position twips) const;
+  [[nodiscard]] QPoint toPixels(WindowPoint twips) const;
 
   [[nodiscard]] const Speech& speech() const { return form_.speech; }
   /// Does what a double-click on the control does.

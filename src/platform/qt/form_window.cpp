@@ -163,7 +163,7 @@ void FormWindow::moveToItsPlace() {
   const Canvas& table = *main_->canvas_;
   const Dots room = toDots(main_->screen()->availableGeometry());
   const QSize whole = size() + frame();
-  const QPoint wanted = table.mapToGlobal(table.toPixels(Position{form_.left, form_.top}));
+  const QPoint wanted = table.mapToGlobal(table.toPixels(WindowPoint{form_.left, form_.top}));
   if (const Dots place = toDots({wanted, whole});
       form_.placed && placeInside(place, room) == place) {
     return moveTo(place);

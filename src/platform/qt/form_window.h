@@ -64,7 +64,7 @@ class FormWindow final : public QMainWindow, private ControlEvents {
   void tick();
 
   /// Where the form wants its window, and whether it wants it there at all.
-  using Whereabouts = std::pair<Position, bool>;
+  using Whereabouts = std::pair<WindowPoint, bool>;
 
   Form& form_;
   Deliver deliver_;

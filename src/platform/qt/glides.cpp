@@ -44,8 +44,8 @@ void Glides::end() {
   changed_();
 }
 
-Position Glides::placeOf(const Frame& frame) const {
-  const Position own{frame.left, frame.top};
+WindowPoint Glides::placeOf(const Frame& frame) const {
+  const WindowPoint own{frame.left, frame.top};
   const auto glide = std::find_if(glides_.begin(), glides_.end(),
                                   [&frame](const Glide& g) { return g.frame == &frame; });
   if (glide == glides_.end()) return own;

@@ -21,7 +21,7 @@ class Glides final : public QObject {
   /// Every frame is where it belongs, at once.
   void end();
   /// Where a frame is to be painted.
-  [[nodiscard]] Position placeOf(const Frame& frame) const;
+  [[nodiscard]] WindowPoint placeOf(const Frame& frame) const;
   /// Lets frames that wait for their way look as they lay: not turned yet, nor uncovered.
   void keepWaiting(Picture& picture) const;
   /// The picture that was seen fits the window no more.

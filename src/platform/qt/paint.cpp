@@ -185,6 +185,23 @@ void paintLook(QPainter& painter, const Item& item, const Label& label) {
   write(painter, room, lettering);
 }
 
+void paintButtonGround(QPainter& painter, const QPushButton& widget, const QRectF& place,
+                       const QColor& color) {
+  const double ratio = widget.devicePixelRatioF();
+  QLinearGradient ground(place.topLeft(), place.bottomLeft());
+  ground.setColorAt(0, widget.isDown() ? color.darker(115) : color.lighter(112));
+  ground.setColorAt(1, color.darker(widget.isDown() ? 108 : 104));
+  const auto edge = [&](double width, const QColor& edgeColor) {
+    const double half = View::plain(ratio).border(width) / 2.0;
+    painter.setPen(QPen(edgeColor, 2 * half));
+    painter.drawRoundedRect(place.adjusted(half, half, -half, -half), 3 * ratio, 3 * ratio);
+  };
+  painter.setBrush(ground);
+  edge(1, color.darker(180));
+  painter.setBrush(Qt::NoBrush);
+  if (widget.hasFocus()) edge(2, widget.palette().color(QPalette::Highlight));
+}
+
 }  // namespace
 
 DotPainter::DotPainter(QWidget& widget) : QPainter(&widget) {
@@ -213,25 +230,10 @@ void paintButton(QPushButton& widget, const Button& button, const View& view) {
   painter.setRenderHint(QPainter::Antialiasing);
   const double ratio = widget.devicePixelRatioF();
   const QRectF place(0, 0, std::floor(widget.width() * ratio), std::floor(widget.height() * ratio));
-  const QColor color = toColor(button.backColor);
-  QLinearGradient ground(place.topLeft(), place.bottomLeft());
-  ground.setColorAt(0, widget.isDown() ? color.darker(115) : color.lighter(112));
-  ground.setColorAt(1, color.darker(widget.isDown() ? 108 : 104));
-  const double corner = 3 * ratio;
-  const auto edge = [&](int width, const QColor& edgeColor) {
-    const double half = width / 2.0;
-    painter.setPen(QPen(edgeColor, width));
-    painter.drawRoundedRect(place.adjusted(half, half, -half, -half), corner, corner);
-  };
-  painter.setBrush(ground);
-  edge(View::plain(ratio).border(1), color.darker(180));
-  painter.setBrush(Qt::NoBrush);
-  if (widget.hasFocus()) {
-    edge(View::plain(ratio).border(2), widget.palette().color(QPalette::Highlight));
-  }
-  const auto group = widget.isEnabled() ? QPalette::Active : QPalette::Disabled;
-  painter.setPen(widget.isEnabled() ? toColor(button.foreColor)
-                                    : widget.palette().color(group, QPalette::ButtonText));
+  paintButtonGround(painter, widget, place, toColor(button.backColor));
+  painter.setPen(widget.isEnabled()
+                     ? toColor(button.foreColor)
+                     : widget.palette().color(QPalette::Disabled, QPalette::ButtonText));
   const int margin = View::plain(ratio).border(2);
   const QRect room = place.toRect().adjusted(margin, 0, -margin, 0);
   // A button that became small with the table has room for more than a caption in proportion.

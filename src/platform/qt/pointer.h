@@ -7,7 +7,7 @@
 
 namespace mevracard {
 
-/// Moves the mouse pointer for a demonstration: the system's own where the platform lets it move
+/// Moves the mouse pointer in the tutorial: the system's own where the platform lets it move
 /// and the player has not turned to another program, else one drawn in the window.
 class Pointer final : public QObject {
  public:

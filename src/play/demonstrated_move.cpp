@@ -1,9 +1,10 @@
-#include "play/demonstration.h"
+#include "play/demonstrated_move.h"
 
 #include <algorithm>
 #include <cmath>
 
 #include "game/grid.h"
+#include "game/rules.h"
 #include "play/ending.h"
 #include "play/placement.h"
 #include "play/status.h"
@@ -24,20 +25,6 @@ constexpr double farAway = 5000;  ///< outside the window: the pointer vanishes 
 /// two divisors differ because the title and menu bars stand above the table.
 double screenX(double left) { return (left + 50) * 150 / 2230; }
 double screenY(double top) { return (top + 50) * 150 / 2050; }
-
-/// Which of a card's two numbers fits which end.
-struct Aim {
-  End end;
-  bool upper;
-};
-
-std::optional<Aim> aimOf(const Game& game, const Card& card) {
-  for (const End end : {End::RightTop, End::LeftBottom}) {
-    if (card.upper == game.chain.openNumber[end]) return Aim{end, true};
-    if (card.lower == game.chain.openNumber[end]) return Aim{end, false};
-  }
-  return std::nullopt;
-}
 
 /// The number to mark on the card at an end; none on the 0-0.
 Label* markedAtEnd(MainWindow& w, End end) {
@@ -75,7 +62,7 @@ bool layDemonstratedCard(MainWindow& w) {
   return false;
 }
 
-void endDemonstration(MainWindow& w) {
+void finishMove(MainWindow& w) {
   TableState& s = w.state;
   s.demo.start.x += s.demo.offset.x;
   s.demo.start.y += s.demo.offset.y;
@@ -93,15 +80,16 @@ void endDemonstration(MainWindow& w) {
 void aimPointer(MainWindow& w) {
   TableState& s = w.state;
   CardControls& card = w.card(s.demo.card);
-  const auto aim = aimOf(w.game, w.game.card(s.demo.card));
-  Label& target = !aim || aim->upper ? card.upper : card.lower;
-  if (aim) {
+  const auto end = firstFit(w.game, s.demo.card);
+  const bool upper = !end || w.game.card(s.demo.card).upper == w.game.chain.openNumber[*end];
+  Label& target = upper ? card.upper : card.lower;
+  if (end) {
     target.backColor = selectionColour;
-    if (Label* number = markedAtEnd(w, aim->end)) number->backColor = selectionColour;
+    if (Label* number = markedAtEnd(w, *end)) number->backColor = selectionColour;
   }
   const auto place = placeOnScreen(w, target);
-  if (aim) {
-    const double top = aim->upper ? card.frame.top : card.frame.height / 2 + card.frame.top;
+  if (end) {
+    const double top = upper ? card.frame.top : card.frame.height / 2 + card.frame.top;
     s.demo.offset.y = (place ? place->y : screenY(top)) - s.demo.start.y;
   }
   s.demo.offset.x = (place ? place->x : screenX(card.frame.left)) - s.demo.start.x;
@@ -110,7 +98,7 @@ void aimPointer(MainWindow& w) {
 }
 
 void demonstrate(MainWindow& w) {
-  Demonstration& demo = w.state.demo;
+  DemonstratedMove& demo = w.state.demo;
   const auto [dx, dy] = demo.offset;
   const auto [x, y] = demo.start;
   const int i = ++demo.tick;
@@ -122,7 +110,7 @@ void demonstrate(MainWindow& w) {
   } else if (i == steps + 3 || i == steps + 6) {
     movePointer(w, x + dx, y + dy);
   } else if (i == steps + 10) {
-    endDemonstration(w);
+    finishMove(w);
   }
 }
 

@@ -1,4 +1,4 @@
-#include "play/same_number_choice.h"
+#include "play/choice_answers.h"
 
 #include "platform/event.h"
 #include "play/choice.h"
