@@ -37,7 +37,7 @@ struct On {
   }
   void operator()(EventKind kind, const Form& form, StepWithKey step) const {
     const bool here = event.kind == kind && event.form == &form && event.control != nullptr;
-    if (here) step(w, *event.control, event.value);
+    if (here && event.value != keyUntyped) step(w, *event.control, event.value);
   }
   void operator()(EventKind kind, const Control& control, Step step) const {
     if (event.kind == kind && event.control == &control) step(w);
@@ -109,18 +109,18 @@ void onMenu(const On& on) {
   on(menu.howToPlay, startTutorial);
 }
 
-/// A key of the game, or a press of a card.
-bool isDoneAtTable(const MainWindow& w, const Event& event) {
-  const bool pressesKeys =
-      event.kind == Click && (event.control == &w.discard || event.control == &w.choice.keys);
-  const bool typesKey = event.kind == KeyPress && event.form == &w.form;
-  return pressesKeys || typesKey || event.kind == DoubleClick;
+/// A key of the game, a press of a card, or one of Clear.
+bool wantsAnswer(const MainWindow& w, const Event& event) {
+  const bool presses =
+      event.kind == Click && (event.control == &w.discard || event.control == &w.choice.keys ||
+                              event.control == &w.statistics.clear);
+  return presses || event.kind == KeyPress || event.kind == DoubleClick;
 }
 
 /// Every event that means something, in four lists: the table, its panels, the other windows, the
 /// menu.
 void answer(MainWindow& w, const Event& event) {
-  w.playerActed = isDoneAtTable(w, event);
+  w.answerDueIn = wantsAnswer(w, event) ? event.form : nullptr;
   const On on{w, event};
   if (event.kind == Menu) {
     onMenu(on);

@@ -16,7 +16,7 @@ enum class EventKind {
   SystemEnd,    ///< the system ends the program: of the main window, whatever disables it
 };
 
-constexpr int keyArrow = 1;  ///< any of the four
+constexpr int keyUntyped = 1;  ///< any that types nothing: an arrow, Tab, Delete
 constexpr int keyEnter = 13;
 constexpr int keyEscape = 27;
 constexpr int keySpace = 32;

@@ -39,7 +39,7 @@ struct MainWindow {
   Tutorial tutorial;
   SizePanel sizePanel;
 
-  bool playerActed = false;  ///< at the table, and is to hear an answer
+  const Form* answerDueIn = nullptr;  ///< the player acted there, and is to hear something
 
   AboutWindow about;  ///< also the window of the tips
   StatisticsWindow statistics;
@@ -78,6 +78,9 @@ struct MainWindow {
   void speakOfGame();
   void speakOfAbout();
   void speakOfStatistics();
+  /// What a small window says, or `again` if that has been heard and the player asks.
+  void speakBeside(Form& window, std::string& known, const std::string& words,
+                   const std::string& again) const;
   /// Gives every control its design place, look and depth, back to front.
   void designControls();
   /// Gives the menu entries their captions and builds the menu tree.

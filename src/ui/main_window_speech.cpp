@@ -25,16 +25,17 @@ void MainWindow::speak() {
   const bool aside = about.form.visible || statistics.form.visible;
   const bool returns = std::exchange(heard.aside, aside) && !aside;
   speakOfTable();
-  heard.news.note(game, state, std::exchange(playerActed, false));
+  heard.news.note(game, state, answerDueIn == (state.passAwaitsOk ? &about.form : &form));
   if (returns && !form.speech.unsaid) heard.news.oweAnswer();
   if (!replyIsDue(*this)) speakOfGame();
   speakOfAbout();
   speakOfStatistics();
+  answerDueIn = nullptr;
 }
 
 void MainWindow::speakBeforeBox() {
   speakOfTable();
-  heard.news.note(game, state, playerActed);
+  heard.news.note(game, state, answerDueIn == &form);
   heard.news.oweAnswer();
 }
 
@@ -49,11 +50,11 @@ void MainWindow::speakOfGame() {
 }
 
 void MainWindow::speakOfAbout() {
-  Label& text = about.tip.visible ? about.tip : about.heading;
-  about.form.speech.lists = {{about.heading.caption, {{&text, text.caption}}}};
-  const bool speaks = about.form.visible && !state.passAwaitsOk;
-  const std::string words = speaks ? text.caption : "";
-  if (std::exchange(heard.about, words) != words && speaks) about.form.speech.tell(words);
+  SpokenList list{about.form.caption, {{&about.heading, about.heading.caption}}};
+  if (about.tip.visible) list.items.push_back({&about.tip, about.tip.caption});
+  const std::string words = state.passAwaitsOk ? "" : list.items.back().words + " ";
+  about.form.speech.lists = {list};
+  speakBeside(about.form, heard.about, words, closingWords());
 }
 
 void MainWindow::speakOfStatistics() {
@@ -61,8 +62,16 @@ void MainWindow::speakOfStatistics() {
   const std::string won = figuresText(w.wonCaption, w.won, w.wonPercent);
   const std::string lost = figuresText(w.lostCaption, w.lost, w.lostPercent);
   w.form.speech.lists = {{"Statistics", {{&w.won, won}, {&w.lost, lost}}}};
-  const std::string words = w.form.visible ? won + ". " + lost + ". " : "";
-  if (std::exchange(heard.statistics, words) != words && w.form.visible) w.form.speech.tell(words);
+  const std::string words = won + ". " + lost + ". ";
+  speakBeside(w.form, heard.statistics, words, words + closingWords());
+}
+
+void MainWindow::speakBeside(Form& window, std::string& known, const std::string& words,
+                             const std::string& again) const {
+  const std::string now = window.visible ? words : "";
+  const bool isNew = std::exchange(known, now) != now;
+  if (now.empty()) return;
+  if (isNew || answerDueIn == &window) window.speech.tell(isNew ? now + closingWords() : again);
 }
 
 }  // namespace mevracard

@@ -62,8 +62,7 @@ std::string News::tell(const Game& game, const TableState& state) {
   // Else a message box has told it.
   if (now.over && now.computersPasses > told_.computersPasses) words += "Computer passes. ";
   if (laid_) words += openNumbers(game.chain);
-  words += now.choice ? selection(game, state) + situation(game, state, now)
-                      : situation(game, state, now) + selection(game, state);
+  words += situation(game, state, now) + selection(game, state);
   if (words.empty() && answerIsDue_) words = prompt(game, state);
   told_ = now;
   moves_.clear();
@@ -72,7 +71,9 @@ std::string News::tell(const Game& game, const TableState& state) {
 }
 
 std::string News::selection(const Game& game, const TableState& state) const {
-  if (!picked_ || state.selectedCard >= handSize) return "";
+  // The question names its card, and nobody selects one after the end.
+  const bool isSaid = picked_ && !state.choiceOpen && !game.ending.over;
+  if (!isSaid || state.selectedCard >= handSize) return "";
   return game.card(state.selectedCard).held ? cardInHand(game, state.selectedCard) + ". "
                                             : "No card is selected. ";
 }
@@ -88,7 +89,7 @@ std::string News::situation(const Game& game, const TableState& state, const Tol
   }
   if (now.over) return "";
   if (now.pass) return told_.pass ? "" : passWords();
-  if (now.choice) return now.choice == told_.choice ? "" : choiceWords(game);
+  if (now.choice) return now.choice == told_.choice ? "" : choiceWords(game, state);
   if (now.shown) return now.shown == told_.shown ? "" : shownCard(game, state.demo.card);
   return laid_ || now.announcement != told_.announcement ? turnWords(state) : "";
 }

@@ -37,17 +37,18 @@ std::string turnWords(const TableState& state) {
 }
 
 std::string standing(const Game& game, const TableState& state) {
-  if (state.choiceOpen) return choiceWords(game);
+  if (state.choiceOpen) return choiceWords(game, state);
   return game.ending.over ? "The game is over. " : turnWords(state);
 }
 
-std::string choiceWords(const Game& game) {
-  return "Mevra " + std::to_string(game.chain.openNumber[End::RightTop]) + " or Mevra " +
+std::string choiceWords(const Game& game, const TableState& state) {
+  return cardInHand(game, state.choiceCard) + ". Mevra " +
+         std::to_string(game.chain.openNumber[End::RightTop]) + " or Mevra " +
          std::to_string(game.chain.openNumber[End::LeftBottom]) + "? Type the number, or Escape. ";
 }
 
 std::string passWords() {
-  return "You pass: no card of yours fits. After OK the computer moves again. ";
+  return "You pass: no card of yours fits. Enter presses OK, then the computer moves again. ";
 }
 
 std::string shownCard(const Game& game, int slot) {
@@ -62,20 +63,25 @@ std::string tutorialBegins() {
 
 std::string tutorialEnds() { return "The demonstration is over. "; }
 
+std::string closingWords() { return "Escape closes the window. "; }
+
 std::string panelWords(const TableState& state) {
   return "Size of the table: " + std::to_string(state.tableSize) +
-         ". The arrow keys change it, Escape closes the panel. ";
+         ". The arrow keys change it, Enter or Escape closes the panel. ";
 }
 
 std::string resultWords(const Game& game) {
-  return (game.ending.deadlock ? "DEADLOCK! " : "") +
-         ("You Have: " + sumWords(game, Side::Player)) +
-         "Computer Has: " + sumWords(game, Side::Computer) +
-         (game.ending.result == GameResult::Won ? "You win. " : "You lose. ");
+  const bool won = game.ending.result == GameResult::Won;
+  const std::string why = game.ending.deadlock ? "DEADLOCK! No card fits on either side. "
+                          : won                ? "You have laid your last card. "
+                                               : "Computer has laid its last card. ";
+  return why + "You Have: " + sumWords(game, Side::Player) +
+         "Computer Has: " + sumWords(game, Side::Computer) + (won ? "You win. " : "You lose. ");
 }
 
 std::string prompt(const Game& game, const TableState& state) {
-  if (state.choiceOpen) return choiceWords(game);
+  if (state.passAwaitsOk) return passWords();
+  if (state.choiceOpen) return choiceWords(game, state);
   if (state.sizePanelOpen) return panelWords(state);
   if (game.ending.over) return "The game is over. F10 opens the menu: File, New Game. ";
   if (state.demo.busy) return shownCard(game, state.demo.card);

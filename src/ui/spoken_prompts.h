@@ -13,8 +13,8 @@ namespace mevracard {
 /// How things stand in one sentence.
 [[nodiscard]] std::string standing(const Game& game, const TableState& state);
 
-/// "Mevra 5 or Mevra 0? Type the number, or Escape. "
-[[nodiscard]] std::string choiceWords(const Game& game);
+/// "0-5, fits both ends. Mevra 5 or Mevra 0? Type the number, or Escape. "
+[[nodiscard]] std::string choiceWords(const Game& game, const TableState& state);
 
 /// The player's pass, which waits for OK.
 [[nodiscard]] std::string passWords();
@@ -25,10 +25,13 @@ namespace mevracard {
 [[nodiscard]] std::string tutorialBegins();
 [[nodiscard]] std::string tutorialEnds();
 
+/// How to leave a window beside the main one.
+[[nodiscard]] std::string closingWords();
+
 /// The screen-size panel that has opened.
 [[nodiscard]] std::string panelWords(const TableState& state);
 
-/// "DEADLOCK! You Have: 20. Computer Has: 30. You win. "
+/// "DEADLOCK! No card fits on either side. You Have: 20. Computer Has: 30. You win. "
 [[nodiscard]] std::string resultWords(const Game& game);
 
 /// What a key is to be pressed for now.

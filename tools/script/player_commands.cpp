@@ -33,6 +33,7 @@ int parseKey(std::string_view word) {
   if (word == "Enter") return keyEnter;
   if (word == "Space") return keySpace;
   if (word == "Esc") return keyEscape;
+  if (word == "Tab") return keyUntyped;
   if (word.size() == 1 && word[0] > ' ' && word[0] <= '~') return word[0];
   throw ScriptError("no key " + excerpt(word));
 }

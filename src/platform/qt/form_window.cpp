@@ -1,12 +1,12 @@
 #include "platform/qt/form_window.h"
 
 #include <QCloseEvent>
-#include <QKeyEvent>
 #include <QScreen>
 #include <algorithm>
 #include <cstdlib>
 #include <utility>
 
+#include "platform/qt/key_code.h"
 #include "platform/qt/look.h"
 #include "platform/view.h"
 
@@ -20,30 +20,6 @@ Qt::WindowFlags flagsOf(const QWidget* mainWindow) {
   if (mainWindow == nullptr) return Qt::Window;
   return Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
          Qt::WindowCloseButtonHint;
-}
-
-/// The code of a key, 0 for one that the game has no use for.
-int keyCodeOf(const QKeyEvent& event) {
-  const bool command =
-      (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) !=
-      Qt::NoModifier;
-  if (command) return 0;
-  switch (event.key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-      return keyEnter;
-    case Qt::Key_Escape:
-      return keyEscape;
-    case Qt::Key_Left:
-    case Qt::Key_Right:
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-      return keyArrow;
-    default:
-      break;
-  }
-  const QString text = event.text();
-  return text.size() == 1 && text[0].isPrint() ? text[0].unicode() : 0;
 }
 
 }  // namespace
