@@ -1,16 +1,18 @@
 #include "platform/qt/message_box.h"
 
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
-#include <QPushButton>
 #include <QScreen>
 #include <QStyle>
 #include <QTextDocument>
 #include <algorithm>
 #include <cmath>
 
+#include "platform/event.h"
 #include "platform/placing.h"
+#include "platform/qt/key_code.h"
 #include "platform/qt/look.h"
 #include "platform/qt/paint.h"
 
@@ -72,6 +74,9 @@ class OkButton final : public QPushButton {
   }
 
  protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    event->key() == Qt::Key_Space ? QPushButton::keyPressEvent(event) : event->ignore();
+  }
   void paintEvent(QPaintEvent* /*event*/) override {
     paintButton(*this, Button(), View::plain(devicePixelRatioF() * growth_));
   }
@@ -92,7 +97,8 @@ MessageBox::MessageBox(QWidget* parent, Kind kind, const QString& title, const Q
     : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                           Qt::WindowCloseButtonHint),
       text_(text),
-      growth_(growthOf(*this)) {
+      growth_(growthOf(*this)),
+      ok_(new OkButton(growth_)) {
   setObjectName("messageBox");
   setWindowTitle(title);
   auto* grid = new QGridLayout(this);
@@ -113,13 +119,20 @@ MessageBox::MessageBox(QWidget* parent, Kind kind, const QString& title, const Q
   const int titleWidth = fontMetrics().horizontalAdvance(title) + titleButtons;
   grid->setColumnMinimumWidth(column, std::min(room.width(), titleWidth));
 
-  auto* ok = new OkButton(growth_);
-  connect(ok, &QPushButton::clicked, this, &QDialog::accept);
-  grid->addWidget(ok, 1, 0, 1, column + 1, Qt::AlignHCenter);
-  ok->setFocus();
+  connect(ok_, &QPushButton::clicked, this, &QDialog::accept);
+  grid->addWidget(ok_, 1, 0, 1, column + 1, Qt::AlignHCenter);
+  ok_->setFocus();
 }
 
 int MessageBox::grown(int pixels) const { return static_cast<int>(pixels * growth_); }
+
+void MessageBox::keyPressEvent(QKeyEvent* event) {
+  const int key = keyCodeOf(*event);
+  if (key == 0 || key == keyEnter || key == keyEscape) return QDialog::keyPressEvent(event);
+  if (!QAccessible::isActive()) return;
+  speech_.tell("Enter closes the message. ");
+  voice_.flush(*ok_);
+}
 
 void MessageBox::waitAt(QPoint middle) {
   adjustSize();

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <QDialog>
+#include <QPushButton>
+
+#include "platform/qt/voice.h"
 
 namespace mevracard {
 
@@ -16,11 +19,18 @@ class MessageBox final : public QDialog {
   /// Shows it with its middle there, as far as the screen has room, and waits until it is closed.
   void waitAt(QPoint middle);
 
+ protected:
+  /// A key that does nothing is answered with the one that does.
+  void keyPressEvent(QKeyEvent* event) override;
+
  private:
   [[nodiscard]] int grown(int pixels) const;
 
   QString text_;
   double growth_;
+  QPushButton* ok_;
+  Speech speech_;
+  Voice voice_{speech_, *this};
 };
 
 }  // namespace mevracard

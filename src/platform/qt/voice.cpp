@@ -75,7 +75,8 @@ void Voice::speakSoon() {
 }
 
 bool Voice::isBehindAnother() const {
-  return !canvas_.isEnabled() || QApplication::activeModalWidget() != nullptr;
+  const QWidget* box = QApplication::activeModalWidget();
+  return !canvas_.isEnabled() || (box != nullptr && box != canvas_.window());
 }
 
 void Voice::speak() {

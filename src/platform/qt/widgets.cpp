@@ -190,6 +190,12 @@ QWidget* Widgets::make(Control& control) {
     bar->setAccessibleName(toText(static_cast<const ScrollBar&>(control).spoken));
     connect(bar, &QScrollBar::valueChanged, this,
             [this, &control](int value) { events_.send(EventKind::Scroll, control, value); });
+    // At an end of its way it does not move, and who presses a key hears where it is.
+    connect(bar, &QScrollBar::actionTriggered, this, [this, &control, bar] {
+      if (bar->sliderPosition() == bar->value()) {
+        events_.send(EventKind::KeyPress, control, keyUntyped);
+      }
+    });
     widget = bar;
   } else if (isText(control)) {
     widget = makeText(static_cast<const Label&>(control));
