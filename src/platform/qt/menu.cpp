@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "platform/qt/look.h"
+#include "platform/qt/spoken_menu.h"
 
 namespace mevracard {
 
@@ -91,6 +92,7 @@ void Menu::add(QWidget& parent, const std::vector<MenuEntry*>& entries) {
     } else {
       auto* menu = new QMenu(&parent);
       action->setMenu(menu);
+      if (qobject_cast<QMenu*>(&parent) != nullptr) reportClosing(*menu);
       add(*menu, entry->entries);
     }
   }

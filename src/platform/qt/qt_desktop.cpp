@@ -9,6 +9,7 @@
 #include <cmath>
 #include <utility>
 
+#include "platform/qt/focus_reports.h"
 #include "platform/qt/look.h"
 #include "platform/qt/menu.h"
 #include "platform/qt/reduced_motion.h"
@@ -35,6 +36,7 @@ QtDesktop::QtDesktop(const std::filesystem::path& dataDir, const std::vector<Def
     : files_(dataDir, defaults) {
   applyLook();
   installSpokenTrees();
+  holdBackFocusReports();
   // What the first picture does not need waits for a moment.
   constexpr int afterOpening = 250;  // ms
   QTimer::singleShot(afterOpening, &dueTicks_, [this] {

@@ -3,6 +3,7 @@
 #include <QAccessibleWidget>
 #include <QApplication>
 #include <QMainWindow>
+#include <QTextEdit>
 #include <QTimer>
 #include <algorithm>
 #include <map>
@@ -11,6 +12,7 @@
 #include "platform/qt/canvas.h"
 #include "platform/qt/child_events.h"
 #include "platform/qt/look.h"
+#include "platform/qt/spoken_menu.h"
 
 namespace mevracard {
 
@@ -187,30 +189,29 @@ class SpokenPlace final : public QAccessibleWidget {
   }
 };
 
+/// A text. Its words stand in a list already.
+class SpokenText final : public QAccessibleWidget {
+ public:
+  explicit SpokenText(QTextEdit& text) : QAccessibleWidget(&text, QAccessible::Client) {}
+
+  int childCount() const override { return 0; }
+  QAccessibleInterface* child(int /*index*/) const override { return nullptr; }
+  QAccessible::State state() const override {
+    QAccessible::State state;
+    state.invisible = true;
+    return state;
+  }
+};
+
 QAccessibleInterface* makeTree(const QString& /*type*/, QObject* object) {
   if (auto* canvas = dynamic_cast<Canvas*>(object)) return new SpokenCanvas(*canvas);
   if (auto* place = dynamic_cast<NewsPlace*>(object)) return new SpokenPlace(*place);
+  if (auto* text = qobject_cast<QTextEdit*>(object)) return new SpokenText(*text);
+  if (auto* menu = spokenMenu(object)) return menu;
   // The windows beside the main one look like any other to the toolkit.
   auto* window = qobject_cast<QMainWindow*>(object);
   const bool dialog = window != nullptr && window->windowType() == Qt::Dialog;
   return dialog ? new QAccessibleWidget(window, QAccessible::Dialog) : nullptr;
-}
-
-void passOn(QAccessibleEvent* event);
-
-void report(QAccessibleEvent& event) {
-  QAccessible::installUpdateHandler(nullptr);
-  QAccessible::updateAccessibility(&event);
-  QAccessible::installUpdateHandler(passOn);
-}
-
-/// The toolkit reports the keyboard before it is known what is to be said where it is.
-void passOn(QAccessibleEvent* event) {
-  const QObject* part = event->object();
-  const bool early =
-      event->type() == QAccessible::Focus && (dynamic_cast<const NewsPlace*>(part) != nullptr ||
-                                              dynamic_cast<const Canvas*>(part) != nullptr);
-  if (!early) report(*event);
 }
 
 using Known = std::vector<Box*>;
@@ -265,15 +266,7 @@ NewsPlace::NewsPlace(QWidget& canvas) : QWidget(&canvas) {
   show();
 }
 
-void installSpokenTrees() {
-  QAccessible::installFactory(makeTree);
-  QAccessible::installUpdateHandler(passOn);
-}
-
-void reportFocus(QWidget& part) {
-  QAccessibleEvent event(&part, QAccessible::Focus);
-  report(event);
-}
+void installSpokenTrees() { QAccessible::installFactory(makeTree); }
 
 void reportChanges(const std::vector<SpokenList>& before, const std::vector<SpokenList>& now,
                    QWidget& canvas) {

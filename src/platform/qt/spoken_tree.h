@@ -15,12 +15,8 @@ class NewsPlace final : public QWidget {
   explicit NewsPlace(QWidget& canvas);
 };
 
-/// From now on every canvas has the lists of its window's speech below it, and the keyboard is
-/// reported at a place for news only when it has words to say.
+/// From now on every canvas has the lists of its window's speech below it.
 void installSpokenTrees();
-
-/// Reports that the keyboard has come to a part of a window.
-void reportFocus(QWidget& part);
 
 /// Reports how the lists on a canvas differ from those before.
 void reportChanges(const std::vector<SpokenList>& before, const std::vector<SpokenList>& now,

@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <utility>
 
+#include "platform/qt/focus_reports.h"
 #include "platform/qt/look.h"
 #include "platform/qt/menu.h"
 
