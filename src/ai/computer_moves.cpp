@@ -154,8 +154,7 @@ std::optional<Move> layDoubleOrCoverDanger(Game& game) {
   game.mind.danger = noNumber;
   game.mind.secondDanger = noNumber;
   for (int n = 6; n >= 0; --n) {
-    const bool open =
-        n == game.chain.openNumber[End::RightTop] || n == game.chain.openNumber[End::LeftBottom];
+    const bool open = isOpen(game, n);
     const auto move = firstMove(Scan::Upwards, [&](int card) -> std::optional<Move> {
       if (open && playerHoldsDouble(game, n)) game.mind.danger = n;
       if (!game.card(card).bears(n)) return std::nullopt;

@@ -6,8 +6,7 @@
 namespace mevracard {
 
 SameNumberVerdict sameNumberVerdict(const Game& game) {
-  const bool banShows = game.chain.openNumber[End::RightTop] == game.mind.bannedNumber ||
-                        game.chain.openNumber[End::LeftBottom] == game.mind.bannedNumber;
+  const bool banShows = isOpen(game, game.mind.bannedNumber);
   for (const int card : handOf(Side::Computer)) {
     if (!game.card(card).held) continue;
     if (!banShows) return SameNumberVerdict::Harmless;

@@ -21,7 +21,7 @@ using Targets = std::array<int, 2>;
 [[nodiscard]] Targets rarestNumbers(const NumberCounts& playerCount);
 
 /// Notes the banned number in the game's `mind`: the last one of which five non-double cards lie on
-/// the table and the computer holds another. Every such number becomes the best target.
+/// the table while the computer holds a card with it. Every such number becomes the best target.
 void findBannedNumber(Game& game, Targets& targets);
 
 }  // namespace mevracard

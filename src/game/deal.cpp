@@ -26,8 +26,9 @@ std::size_t partOf(double draw, std::uint64_t parts) {
   return parts == 0 ? 0 : static_cast<std::size_t>((reach - 1) >> 53U);
 }
 
-/// QUIRK-03: `v` never swaps with itself, so the permutation is one single cycle. One would expect
-/// every permutation; the player never sees the n-th pair (the 0-0 is the first) dealt to slot n.
+/// QUIRK-03: but for 0 no `v` swaps with itself, so the permutation is one single cycle. One would
+/// expect every permutation; the player never sees the n-th pair (the 0-0 is the first) in the n-th
+/// slot.
 std::array<std::size_t, cardCount> singleCycle(const std::function<double()>& draw) {
   std::array<std::size_t, cardCount> slots{};
   std::iota(slots.begin(), slots.end(), std::size_t{0});

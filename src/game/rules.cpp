@@ -29,6 +29,11 @@ std::optional<End> endFor(const Game& game, int card) {
   return std::nullopt;
 }
 
+bool isOpen(const Game& game, int number) {
+  const auto& open = game.chain.openNumber;
+  return number == open[End::RightTop] || number == open[End::LeftBottom];
+}
+
 bool bearsBothOpenNumbers(const Game& game, int card) {
   const auto [upper, lower, held] = game.card(card);
   const int first = game.chain.openNumber[End::RightTop];

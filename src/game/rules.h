@@ -16,6 +16,8 @@ namespace mevracard {
 /// None if it fits no end that is allowed.
 [[nodiscard]] std::optional<End> endFor(const Game& game, int card);
 
+/// An end of the chain shows this number.
+[[nodiscard]] bool isOpen(const Game& game, int number);
 /// The card's two numbers are exactly the two open numbers, in either order. A double qualifies
 /// when both ends show its number.
 [[nodiscard]] bool bearsBothOpenNumbers(const Game& game, int card);

@@ -6,11 +6,12 @@ namespace mevracard {
 
 namespace {
 
-/// Lists are in depth order: the band of `layer` ends before the first control of a later layer.
+/// Lists are in depth order: the band of `layer` ends behind the last control of no later layer.
 void insertAtFrontOfLayer(std::vector<Control*>& list, Control& control) {
-  const auto behindNextLayer = std::find_if(
-      list.begin(), list.end(), [&](const Control* other) { return other->layer > control.layer; });
-  list.insert(behindNextLayer, &control);
+  const auto last = std::find_if(list.rbegin(), list.rend(), [&](const Control* other) {
+    return other->layer <= control.layer;
+  });
+  list.insert(last.base(), &control);
 }
 
 std::vector<Control*>& siblings(Form& form, Control& control) {
@@ -28,14 +29,12 @@ void Timer::arm(int milliseconds) {
 void Form::add(Control& control, std::string_view controlName, int index) {
   control.name = controlName;
   control.index = index;
-  insertAtFrontOfLayer(controls, control);
+  insertAtFrontOfLayer(siblings(*this, control), control);
 }
 
 void Form::addTo(Frame& frame, Control& control, std::string_view controlName, int index) {
-  control.name = controlName;
-  control.index = index;
   control.parent = &frame;
-  insertAtFrontOfLayer(frame.children, control);
+  add(control, controlName, index);
 }
 
 void Form::bringToFront(Control& control) {

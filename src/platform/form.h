@@ -93,7 +93,7 @@ struct Form {
   /// Puts a control on the window, in front of the others of its layer.
   void add(Control& control, std::string_view name, int index = -1);
   /// Puts a control into a frame, in front of the frame's other children.
-  static void addTo(Frame& frame, Control& control, std::string_view name, int index = -1);
+  void addTo(Frame& frame, Control& control, std::string_view name, int index = -1);
   /// In front of (behind) all other controls of its layer, or of its frame.
   void bringToFront(Control& control);
   void sendToBack(Control& control);

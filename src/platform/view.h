@@ -18,9 +18,9 @@ constexpr double growthOn(double screenWidth, double screenHeight) {
   return std::max(1.0, std::min(screenWidth / usualWidth, screenHeight / usualHeight));
 }
 
-/// How a window's twips lie on the dots of its screen: one zoom and one origin. The only place
-/// where a place is rounded to a dot, so that every edge is crisp. A place absurdly far away is
-/// drawn in to one that still counts in whole numbers.
+/// How a window's twips lie on the dots of its screen: one zoom and one origin. Here
+/// the places of controls are rounded to dots, so that every edge is crisp. A place absurdly far
+/// away is drawn in to one that still counts in whole numbers.
 struct View {
   double dotsPerTwip = 1 / twipsPerDesignPixel;
   double left = 0, top = 0;  ///< dots from the window's corner to the origin

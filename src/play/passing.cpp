@@ -34,7 +34,7 @@ bool turnWasPlain(const MainWindow& w) {
 }
 
 /// Right of the card at the Right/Top end, which stays in view; where the screen has no room there,
-/// clear of the chain.
+/// the desktop finds another place.
 void placeTips(MainWindow& w) {
   const Frame& endCard = w.card(w.game.chain.endCard[End::RightTop].value_or(0)).frame;
   w.about.form.placed = true;

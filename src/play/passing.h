@@ -13,8 +13,8 @@ void announcePlayersPass(MainWindow& w);
 /// OK of the tips after a pass of the player: the computer moves again after 2000 ms.
 void acknowledgePass(MainWindow& w);
 
-/// Closes a turn of the computer and the pass of the player: ends the game if it has no card left,
-/// else refreshes the tip.
+/// Closes a turn of the computer and the pass of the player: ends the game if the computer's count
+/// is 0, adds the general tip unless somebody must pass, and gives NEXT the keyboard.
 void closeTurn(MainWindow& w);
 
 }  // namespace mevracard

@@ -11,7 +11,8 @@ namespace mevracard {
 
 namespace {
 
-/// Takes the marks off the card and the one that it joins, and glides it to its place.
+/// Takes the marks off the card and the one that it joins, gives it its depth, moves the marker of
+/// a turn, and glides the card to its place.
 void showPlacement(MainWindow& w, int slot, const Placement& placement) {
   const auto& [end, laying, joined] = placement;
   CardControls& card = w.card(slot);

@@ -18,7 +18,7 @@ struct Statistics {
 };
 [[nodiscard]] Statistics statisticsOf(std::string_view fileText);
 
-/// 999 games are counted: the next result begins at 0 again.
+/// 999 games are counted: the next result begins anew (QUIRK-28).
 [[nodiscard]] bool countsAreFull(std::string_view fileText);
 
 // New texts of the file. What stands behind the counts is kept.

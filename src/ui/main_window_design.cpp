@@ -181,15 +181,15 @@ void addArrows(Form& form, Choice& choice) {
 void addCard(Form& form, CardControls& card, int slot) {
   card.frame.layer = Layer::Cards;
   form.add(card.frame, "k", slot);
-  Form::addTo(card.frame, card.upper, "a", slot);
-  Form::addTo(card.frame, card.lower, "b", slot);
-  Form::addTo(card.frame, card.divider, "ln", slot);
-  Form::addTo(card.frame, card.back.ground, "luar1", slot);
-  Form::addTo(card.frame, card.back.leaf, "luar2", slot);
-  Form::addTo(card.frame, card.back.stem, "luar3", slot);
-  Form::addTo(card.frame, card.back.lowerPetal, "luar4", slot);
-  Form::addTo(card.frame, card.back.leftPetal, "luar5", slot);
-  Form::addTo(card.frame, card.back.heart, "luar6", slot);
+  form.addTo(card.frame, card.upper, "a", slot);
+  form.addTo(card.frame, card.lower, "b", slot);
+  form.addTo(card.frame, card.divider, "ln", slot);
+  form.addTo(card.frame, card.back.ground, "luar1", slot);
+  form.addTo(card.frame, card.back.leaf, "luar2", slot);
+  form.addTo(card.frame, card.back.stem, "luar3", slot);
+  form.addTo(card.frame, card.back.lowerPetal, "luar4", slot);
+  form.addTo(card.frame, card.back.leftPetal, "luar5", slot);
+  form.addTo(card.frame, card.back.heart, "luar6", slot);
   card.uncover();
 }
 

@@ -25,13 +25,13 @@ class Table {
     form_.maximized = true;
     for (std::size_t i = 0; i < cards_.size(); ++i) {
       form_.add(cards_[i], "k", static_cast<int>(i));
-      Form::addTo(cards_[i], numbers_[i], "a", static_cast<int>(i));
+      form_.addTo(cards_[i], numbers_[i], "a", static_cast<int>(i));
       cards_[i].width = cards_[i].height = 900;
       numbers_[i].width = numbers_[i].height = 300;
       numbers_[i].caption = "2";
       cards_[i].left = 1500 * static_cast<float>(i);
     }
-    Form::addTo(cards_[1], back_, "luar1");
+    form_.addTo(cards_[1], back_, "luar1");
     back_.width = back_.height = 900;
     back_.filled = true;
     window_.open();

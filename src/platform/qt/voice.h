@@ -11,7 +11,7 @@ namespace mevracard {
 /// Hands a window's speech on to assistive technology. What is asked for stands in the accessible
 /// tree below the canvas. A screen reader says what the keyboard comes to, and nothing that changes
 /// where it is: so the news stands in turn at two places that nobody sees. They have the keyboard
-/// for the canvas; where a widget has it, it is reported at the place, and back at the widget.
+/// for the canvas; where a widget has it, it is reported at the place, and back at a button.
 class Voice final : public QObject {
  public:
   Voice(Speech& speech, QWidget& canvas);
@@ -20,7 +20,7 @@ class Voice final : public QObject {
   void flush(QWidget& keyboard);
 
  protected:
-  /// The keyboard comes to the window, or to the place of the news.
+  /// The keyboard comes to the window, leaves it, or comes to the place of the news.
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
