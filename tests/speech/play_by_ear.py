@@ -28,10 +28,11 @@ def has(part, *states):
 
 
 def parts(root):
-    """Everything below, however deep."""
+    """Everything below, however deep, each below its parent."""
     for i in range(root.get_child_count()):
         if child := root.get_child_at_index(i):
             child.clear_cache()
+            assert child.get_parent() == root, child.get_name()
             yield child
             yield from parts(child)
 
@@ -57,10 +58,12 @@ class Player:
             elif items.pop(event.detail1) != event.any_data:
                 self.fail(f"{event.detail1} is no index of what goes")
         elif "focused" in event.type and event.detail1:
-            self.news.append(source.get_name())
+            kept, last = source.get_name(), [*self.heard, *self.news][-1]
             source.clear_cache()
-            if source.get_name() not in self.news[-1:] or not self.news[-1]:
-                self.fail(f"{self.news[-1]!r} is known where {source.get_name()!r} is to be heard")
+            if kept != source.get_name() or not kept:
+                self.fail(f"{kept!r} is known where {source.get_name()!r} is to be heard")
+            if not kept == last == "OK":  # still at the button
+                self.news.append(kept)
 
     def press(self, key, beginning=""):
         """Gives what is heard then, and the items of each list."""

@@ -15,8 +15,10 @@ class SpokenMenu final : public QAccessibleWidget {
 
   QAccessibleInterface* parent() const override {
     const auto* menu = qobject_cast<QMenu*>(widget());
-    return menu == nullptr ? QAccessibleWidget::parent()
-                           : QAccessible::queryAccessibleInterface(menu->menuAction());
+    // The toolkit's own, for entries that find no room, is its entry's parent.
+    const bool hasEntry = menu != nullptr && menu->menuAction()->parent() != menu;
+    return hasEntry ? QAccessible::queryAccessibleInterface(menu->menuAction())
+                    : QAccessibleWidget::parent();
   }
   int childCount() const override { return static_cast<int>(widget()->actions().size()); }
   QAccessibleInterface* child(int index) const override {
