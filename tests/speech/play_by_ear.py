@@ -14,7 +14,6 @@ import gi
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
-PATIENCE = 200  # seconds until the game counts as dumb
 EVENTS = "object:state-changed:focused", "object:property-change", "object:children-changed"
 LISTS = "Your cards", "Computer's cards", "Table", "Score"
 OPENING = [  # a key, and how what is then heard begins
@@ -28,11 +27,9 @@ def has(part, *states):
 
 
 def parts(root):
-    """Everything below, however deep, each below its parent."""
     for i in range(root.get_child_count()):
         if child := root.get_child_at_index(i):
             child.clear_cache()
-            assert child.get_parent() == root, child.get_name()
             yield child
             yield from parts(child)
 
@@ -45,7 +42,7 @@ class Player:
         for kind in EVENTS:
             self.listener.register(kind)
         self.game = subprocess.Popen([program], env={**os.environ, "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"})
-        GLib.timeout_add_seconds(PATIENCE, self.fail, "no more is said")
+        GLib.timeout_add_seconds(200, self.fail, "no more is said")
 
     def hear(self, event):
         source = event.source
@@ -66,7 +63,6 @@ class Player:
                 self.news.append(kept)
 
     def press(self, key, beginning=""):
-        """Gives what is heard then, and the items of each list."""
         if key:
             subprocess.run(["xdotool", "key", key], check=True)
         while not self.news or not self.news[0].startswith(beginning):
