@@ -134,9 +134,3 @@ TEST(Tutorial, EndsOnTheMarkedNumber) {
 
 }  // namespace
 }  // namespace mevracard
-
-int main(int argc, char** argv) {
-  testing::InitGoogleTest(&argc, argv);
-  const QApplication application(argc, argv);
-  return RUN_ALL_TESTS();
-}

@@ -69,6 +69,10 @@ TEST(DataFiles, AreReplacedWholeOrNotAtAll) {
     EXPECT_THROW(files.write(name, "one"), PlatformError);
   }
   EXPECT_EQ(entriesIn(home.game()), 3);
+  // A folder that somebody removes while the game runs is made anew, with all that leads to it.
+  const DataFiles gone(home.root() / "not" / "there", {});
+  gone.write("record", "one");
+  EXPECT_EQ(gone.read("record"), "one");
 }
 
 struct Hindrance {

@@ -1,65 +1,66 @@
 // Cards on their way to the chain, at a clock of the test's own.
-#include <QApplication>
+#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVariant>
 #include <QDBusVirtualObject>
-#include <array>
+#include <QKeyEvent>
 #include <thread>
 
 #include <gtest/gtest.h>
 
-#include "platform/qt/form_window.h"
+#include "painting/table.h"
 #include "platform/qt/reduced_motion.h"
 #include "testing/clock.h"
 
 namespace mevracard {
 namespace {
 
-/// A window with two cards, of which the second lies face down.
-class Table {
- public:
-  Table()
-      : window_(
-            form_, [](const Event&) { return true; }, nullptr) {
-    form_.maximized = true;
-    for (std::size_t i = 0; i < cards_.size(); ++i) {
-      form_.add(cards_[i], "k", static_cast<int>(i));
-      form_.addTo(cards_[i], numbers_[i], "a", static_cast<int>(i));
-      cards_[i].width = cards_[i].height = 900;
-      numbers_[i].width = numbers_[i].height = 300;
-      numbers_[i].caption = "2";
-      cards_[i].left = 1500 * static_cast<float>(i);
-    }
-    form_.addTo(cards_[1], back_, "luar1");
-    back_.width = back_.height = 900;
-    back_.filled = true;
-    window_.open();
+/// Two cards that are laid in one turn, of which the second one lies face down before.
+class Glides : public testing::Test {
+ protected:
+  /// A card as it is seen: at which height, in dots, and with which upper number.
+  using Seen = std::pair<int, std::string>;
+  static constexpr int first = 0, second = 20;
+
+  Glides() {
+    w.game.card(first).upper = w.game.card(second).upper = 2;
+    w.present();
     pass(500);
   }
 
-  /// Both cards are turned and laid in one turn.
   void lay() {
-    back_.visible = false;
-    for (std::size_t i = 0; i < cards_.size(); ++i) {
-      const WindowPoint from{cards_[i].left, cards_[i].top};
-      cards_[i].left += 600;
-      cards_[i].top = 3000;
-      numbers_[i].caption = "4";
-      form_.glides.push_back({&cards_[i], from, {cards_[i].left, cards_[i].top}});
+    for (const int slot : {first, second}) {
+      Frame& frame = w.card(slot).frame;
+      const WindowPoint from{frame.left, frame.top};
+      frame.top = 5000;
+      w.game.card(slot).upper = 4;
+      w.card(slot).uncover();
+      w.form.glides.push_back({&frame, from, {frame.left, frame.top}});
     }
-    window_.flush();
+    w.present();
   }
 
-  /// How the cards are seen: at which height, in pixels, and with which number.
-  [[nodiscard]] std::array<std::pair<int, std::string>, 2> seen() const {
-    std::array<std::pair<int, std::string>, 2> cards;
-    for (const Item& item : window_.canvas().picture()) {
-      auto& [top, number] = cards.at(static_cast<std::size_t>(std::max(0, item.control->index)));
-      if (item.control->kind == ControlKind::Frame) top = item.place.top;
-      if (const auto* label = std::get_if<Label>(&item.look)) number = label->caption;
+  [[nodiscard]] Seen seen(int slot) {
+    Seen seen;
+    for (const Item& item : table.windowOf(w.form).canvas().picture()) {
+      if (item.control == &w.card(slot).frame) seen.first = item.place.top;
+      if (item.control != &w.card(slot).upper) continue;
+      seen.second = std::get<Label>(item.look).caption;
     }
-    return cards;
+    return seen;
+  }
+
+  /// Where it lies, with its new number.
+  [[nodiscard]] Seen laid(int slot) {
+    const FormWindow& window = table.windowOf(w.form);
+    const QRect place = window.canvas().placeOf(w.card(slot).frame);
+    return {place.top(), "4"};
+  }
+
+  [[nodiscard]] bool isUnderWay(int slot, int from) {
+    const int top = seen(slot).first;
+    return std::min(from, laid(slot).first) + 9 < top && top < std::max(from, laid(slot).first) - 9;
   }
 
   static void pass(int time) {
@@ -69,48 +70,36 @@ class Table {
     }
   }
 
-  void pressKey() {
-    QKeyEvent key(QEvent::KeyPress, Qt::Key_P, Qt::NoModifier, "p");
-    QCoreApplication::sendEvent(&window_, &key);
-  }
-
- private:
-  Form form_;
-  std::array<Frame, 2> cards_;
-  std::array<Label, 2> numbers_;
-  Shape back_;
-  FormWindow window_;
+  Table table{"2/1/99"};
+  MainWindow& w = table.w;
 };
-
-using Seen = std::array<std::pair<int, std::string>, 2>;
-const Seen laid{{{200, "4"}, {200, "4"}}};
 
 // One after the other, and a card looks as it lay until its own way begins. A key puts all in
 // place.
-TEST(Glides, ShowOneCardAfterTheOther) {
-  Table table;
-  const Seen before{{{0, "2"}, {0, ""}}};
-  ASSERT_EQ(table.seen(), before);
-  table.lay();
-  EXPECT_EQ(table.seen()[0], std::pair(0, std::string("4")));
-  EXPECT_EQ(table.seen()[1], before[1]);
-  Table::pass(75);
-  EXPECT_GT(table.seen()[0].first, 20);
-  EXPECT_LT(table.seen()[0].first, 190);
-  EXPECT_EQ(table.seen()[1], before[1]);
-  Table::pass(150);
-  EXPECT_EQ(table.seen()[0], laid[0]);
-  EXPECT_GT(table.seen()[1].first, 20);
-  EXPECT_LT(table.seen()[1].first, 190);
-  EXPECT_EQ(table.seen()[1].second, "4");
-  Table::pass(100);
-  EXPECT_EQ(table.seen(), laid);
-  Table other;
-  other.lay();
-  Table::pass(50);
-  ASSERT_NE(other.seen(), laid);
-  other.pressKey();
-  EXPECT_EQ(other.seen(), laid);
+TEST_F(Glides, ShowOneCardAfterTheOther) {
+  const Seen before = seen(first);
+  const Seen covered = seen(second);
+  EXPECT_EQ(before.second, "2");
+  EXPECT_EQ(covered.second, "");
+  lay();
+  EXPECT_EQ(seen(first), (Seen{before.first, "4"}));
+  EXPECT_EQ(seen(second), covered);
+  pass(75);
+  EXPECT_TRUE(isUnderWay(first, before.first));
+  EXPECT_EQ(seen(second), covered);
+  pass(150);
+  EXPECT_EQ(seen(first), laid(first));
+  EXPECT_TRUE(isUnderWay(second, covered.first));
+  EXPECT_EQ(seen(second).second, "4");
+  pass(100);
+  EXPECT_EQ(seen(second), laid(second));
+  w.card(first).frame.top = 7000;
+  lay();
+  pass(50);
+  EXPECT_NE(seen(first), laid(first));
+  QKeyEvent key(QEvent::KeyPress, Qt::Key_Shift, Qt::ShiftModifier);
+  QCoreApplication::sendEvent(&table.windowOf(w.form), &key);
+  EXPECT_EQ(seen(first), laid(first));
 }
 
 /// The setting service of a desktop.
@@ -141,7 +130,7 @@ bool comesTrue(const std::function<bool()>& condition) {
 }
 
 // Who asked the desktop for less motion sees the cards in place at once.
-TEST(Glides, AreLeftOutWhereTheDesktopSaysSo) {
+TEST_F(Glides, AreLeftOutWhereTheDesktopSaysSo) {
   SettingService service;
   auto bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, "desktop");
   ASSERT_TRUE(bus.registerVirtualObject("/org/freedesktop/portal/desktop", &service));
@@ -152,16 +141,9 @@ TEST(Glides, AreLeftOutWhereTheDesktopSaysSo) {
   service.animations = false;
   askAboutMotion();
   EXPECT_TRUE(comesTrue(motionIsReduced));
-  Table table;
-  table.lay();
-  EXPECT_EQ(table.seen(), laid);
+  lay();
+  EXPECT_EQ(seen(first), laid(first));
 }
 
 }  // namespace
 }  // namespace mevracard
-
-int main(int argc, char** argv) {
-  testing::InitGoogleTest(&argc, argv);
-  const QApplication application(argc, argv);
-  return RUN_ALL_TESTS();
-}

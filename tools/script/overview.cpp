@@ -59,8 +59,16 @@ std::string manners(const Form& form) {
   return line;
 }
 
+void addSpeech(Lines& lines, const Speech& speech) {
+  lines.push_back("line " + speech.line);
+  for (const SpokenList& list : speech.lists) {
+    for (const SpokenItem& item : list.items) lines.push_back(list.words + ": " + item.words);
+  }
+}
+
 void addWindow(Lines& lines, const Form& form) {
   addPart(lines, std::string(form.name), propertiesOf(form));
+  addSpeech(lines, form.speech);
   lines.push_back(manners(form));
   addEntries(lines, form.menu);
   addControls(lines, form.controls);
