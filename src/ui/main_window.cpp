@@ -24,7 +24,11 @@ double MainWindow::scale() const { return scaleOf(state.tableSize, state.screenH
 
 std::vector<KeptClear> MainWindow::whatMatters() const {
   KeptClear buttons{{&choice.leftBottom, &choice.rightTop, &choice.cancel}, true};
-  KeptClear hand{{}, true}, ends{{}, true}, line{{&status}, true}, chain, computersHand;
+  const Result& r = result;
+  KeptClear words{
+      {&status, &r.deadlock, &r.youHave, &r.computerHas, &r.yourSum, &r.computersSum, &r.verdict},
+      true};
+  KeptClear hand{{}, true}, ends{{}, true}, chain, computersHand;
   for (const int slot : allSlots) {
     const bool isEnd =
         slot == game.chain.endCard[End::RightTop] || slot == game.chain.endCard[End::LeftBottom];
@@ -34,7 +38,7 @@ std::vector<KeptClear> MainWindow::whatMatters() const {
                                              : computersHand;
     group.boxes.push_back(&cards[static_cast<std::size_t>(slot)].frame);
   }
-  return {buttons, hand, ends, line, chain, computersHand};
+  return {buttons, hand, ends, words, chain, computersHand};
 }
 
 void MainWindow::refresh() {
