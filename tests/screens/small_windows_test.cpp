@@ -93,6 +93,9 @@ TEST_F(SmallWindows, KeepClearOfWhatTheTipsSpeakOf) {
   window.move(window.pos() + QPoint(60, 60));
   layUnderTips();
   EXPECT_TRUE(hides(window, end));
+  w.about.form.placed = true;  // on the table, if there is no room above or below it
+  w.present();
+  EXPECT_EQ(hides(window, w.table.whole), window.screen()->size() != QSize(1080, 1920));
 }
 
 // On a large screen panels and windows keep their share of it, with all that the mouse meets.

@@ -135,14 +135,23 @@ ClearGroups FormWindow::clearGroups(bool always) const {
   return groups;
 }
 
+std::optional<Dots> FormWindow::aboveOrBelowTable(const Dots& wanted) const {
+  const Dots window = toDots(areaOf(*main_));
+  const Dots room{placeInside(wanted, window).left, window.top, wanted.width, window.height};
+  const ClearGroups table{{toDots(main_->placeOnScreen(*main_->form_.whole))}};
+  const Dots place = clearPlace(wanted, room, table);
+  const bool clear = coveredBy(place, table) == std::vector<long>(1);
+  return clear ? std::optional(place) : std::nullopt;
+}
+
 void FormWindow::moveToItsPlace() {
   const Canvas& table = *main_->canvas_;
   const Dots room = toDots(main_->screen()->availableGeometry());
   const QSize whole = size() + frame();
   const QPoint wanted = table.mapToGlobal(table.toPixels(WindowPoint{form_.left, form_.top}));
-  if (const Dots place = toDots({wanted, whole});
-      form_.placed && placeInside(place, room) == place) {
-    return moveTo(place);
+  if (const Dots place = toDots({wanted, whole}); form_.placed) {
+    const Dots best = aboveOrBelowTable(place).value_or(place);
+    if (placeInside(best, room) == best) return moveTo(best);
   }
   QRect middle(QPoint(), whole);
   middle.moveCenter(areaOf(*main_).center());

@@ -4,6 +4,7 @@
 #include <QTimer>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "platform/event.h"
 #include "platform/placing.h"
@@ -50,6 +51,8 @@ class FormWindow final : public QMainWindow, private ControlEvents {
   /// How much larger it is with what the window system draws around it.
   [[nodiscard]] QSize frame() const;
   void moveToItsPlace();
+  /// The nearest place where the table is not covered, if the main window is high enough for one.
+  [[nodiscard]] std::optional<Dots> aboveOrBelowTable(const Dots& wanted) const;
   /// Moves off what it must not lie on.
   void makeWay();
   void moveTo(const Dots& place);
