@@ -67,10 +67,11 @@ struct Label : Box {
   Font font;
   Alignment alignment = Alignment::Left;
   bool bordered = false;
-  bool opaque = true;     ///< painted on its back colour, else on what lies behind it
-  bool link = false;      ///< the pointer over it is a hand, and it can be pressed
-  bool scrolls = false;   ///< a text that may be longer than its box
-  bool foremost = false;  ///< must be read: a real desktop paints it in front of everything
+  bool opaque = true;          ///< painted on its back colour, else on what lies behind it
+  bool link = false;           ///< the pointer over it is a hand, and it can be pressed
+  bool scrolls = false;        ///< a text that may be longer than its box
+  bool foremost = false;       ///< must be read: a real desktop paints it in front of everything
+  const Box* spare = nullptr;  ///< its place where its own is too small for a text
   Color backColor, foreColor;
   bool operator==(const Label&) const = default;
 };

@@ -25,6 +25,27 @@ auto partsOf(const Frame& frame, Items& items) {
   return std::pair{first, std::find_if_not(first, items.end(), belongs)};
 }
 
+/// What the pinned controls cover, all of them or those that show.
+Dots pinnedArea(const Form& form, const View& view, bool all) {
+  Dots area;
+  for (const Control* control : form.controls) {
+    const bool counts = control->pinned && control->kind != ControlKind::Line;
+    if (!counts || !(all || control->visible)) continue;
+    area = area.joined(view.box(static_cast<const Box&>(*control)));
+  }
+  return area;
+}
+
+/// Where the text of a label is read that has this place.
+Dots readable(const Label& label, Dots place, const Views& views) {
+  constexpr int leastWidth = 6;  // times the size of the type
+  if (label.spare != nullptr && place.width < leastWidth * views.type()) {
+    return views.of(label).box(*label.spare);
+  }
+  if (label.foremost && place.meets(views.panels)) place.top = views.panels.bottom();
+  return place;
+}
+
 /// Makes a picture, one window or frame at a time.
 class Maker {
  public:
@@ -71,6 +92,10 @@ class Maker {
     return {frame->view.dotsPerTwip, double(frame->place.left), double(frame->place.top)};
   }
 
+  [[nodiscard]] Dots placeOf(const Box& box, const Item* frame) const {
+    return frame == nullptr ? views_.placeOf(box) : viewOf(box, frame).box(box);
+  }
+
   [[nodiscard]] bool isCovered(const Item& label, Controls next, Controls end) const {
     return std::any_of(next, end, [&](const Control* c) {
       if (c->kind != ControlKind::Shape || !c->visible) return false;
@@ -93,8 +118,8 @@ class Maker {
   void addLabel(Item& item, Controls next, Controls end, const Item* frame) {
     const auto& label = static_cast<const Label&>(*item.control);
     item.look = label;
-    item.place = item.view.box(label);
-    item.type = views_.pinned.border(smallestType);
+    item.place = placeOf(label, frame);
+    item.type = views_.type();
     if (isCovered(item, next, end)) return;
     const int border = label.bordered ? item.view.border(1) : 0;
     const int side = label.alignment == Alignment::Centre ? 0 : item.view.border(labelPadding);
@@ -112,15 +137,14 @@ class Maker {
   /// What in front of a text would hide it.
   [[nodiscard]] Dots obstacle(const Control& control, const Item* frame) const {
     if (!control.visible) return {};
-    const View view = viewOf(control, frame);
     if (control.kind == ControlKind::Line) {
       const auto& line = static_cast<const Line&>(control);
-      return isStraight(line) ? view.line(line) : Dots();
+      return isStraight(line) ? viewOf(line, frame).line(line) : Dots();
     }
     const bool solid = control.kind == ControlKind::Label
                            ? static_cast<const Label&>(control).opaque
                            : isWidget(control);
-    return solid ? view.box(static_cast<const Box&>(control)) : Dots();
+    return solid ? placeOf(static_cast<const Box&>(control), frame) : Dots();
   }
 
   const Views& views_;
@@ -154,22 +178,23 @@ Views viewsOf(const Form& form, const Dots& window, double ratio, double growth)
   const View own = View::plain(ratio * growth);
   if (form.whole == nullptr) return {own, own, window};
   const View table = View::fitted(*form.whole, window.width, window.height, ratio, form.headroom);
-  Dots pinned;
-  for (const Control* control : form.controls) {
-    if (!control->pinned || control->kind == ControlKind::Line) continue;
-    pinned = pinned.joined(own.box(static_cast<const Box&>(*control)));
-  }
-  if (form.corner == nullptr || !pinned.meets(table.box(*form.whole))) return {table, own, window};
+  const Dots all = pinnedArea(form, own, true);
+  if (form.corner == nullptr || !all.meets(table.box(*form.whole))) return {table, own, window};
   const Dots corner = table.box(*form.corner);
-  const double left = corner.left - pinned.left;
-  const double top = corner.top - pinned.top;
-  return {table, {own.dotsPerTwip, left, top}, window};
+  const double left = corner.left - all.left;
+  const double top = corner.top - all.top;
+  const View pinned{own.dotsPerTwip, left, top};
+  return {table, pinned, window, pinnedArea(form, pinned, false)};
 }
 
 Dots Views::placeOf(const Box& box) const {
-  if (box.parent == nullptr) return of(box).box(box);
-  const Dots frame = placeOf(*box.parent);
-  return View{of(*box.parent).dotsPerTwip, double(frame.left), double(frame.top)}.box(box);
+  if (box.parent != nullptr) {
+    const Dots frame = placeOf(*box.parent);
+    return View{of(*box.parent).dotsPerTwip, double(frame.left), double(frame.top)}.box(box);
+  }
+  const Dots place = of(box).box(box);
+  return box.kind == ControlKind::Label ? readable(static_cast<const Label&>(box), place, *this)
+                                        : place;
 }
 
 bool isWidget(const Control& control) {

@@ -47,13 +47,16 @@ struct Views {
   View table;   ///< fitted into the window
   View pinned;  ///< of the controls that keep their place and size
   Dots window;
+  Dots panels = {};  ///< what these cover of the table
 
   bool operator==(const Views&) const = default;
   [[nodiscard]] const View& of(const Control& control) const {
     return control.pinned ? pinned : table;
   }
-  /// A control's box, also inside a frame.
+  /// A control's box, also inside a frame, where it can be read.
   [[nodiscard]] Dots placeOf(const Box& box) const;
+  /// The smallest size of a font, in dots.
+  [[nodiscard]] int type() const { return pinned.border(smallestType); }
 };
 
 /// `window` is all of it, with `ratio` dots to a pixel.

@@ -66,6 +66,7 @@ class Scaler {
 void scaleTable(TableControls& table, const Scaler& by) {
   by.scale(table.whole);
   by.scale(table.panels);
+  for (Shape& spare : table.captionSpares) by.scale(spare);
   for (PerSide<Counter>* counters : {&table.cardsLeft, &table.passes}) {
     for (auto& [heading, count] : counters->values) {
       by.show(heading);

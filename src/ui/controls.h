@@ -40,8 +40,9 @@ struct Counter {
 /// What lies under and around the cards.
 struct TableControls {
   // On no window themselves:
-  Shape whole;   ///< the area that table and hands take up
-  Shape panels;  ///< has the upper left corner of the panels
+  Shape whole;                         ///< the area that table and hands take up
+  Shape panels;                        ///< has the upper left corner of the panels
+  std::array<Shape, 2> captionSpares;  ///< of `handCaptions`, beyond the counters
 
   std::array<Line, 4> border;
   std::array<Line, 2> leftGuides, rightGuides;

@@ -53,6 +53,10 @@ void designCounters(TableControls& t) {
 void designTable(TableControls& t) {
   design(t.handCaptions[0],    {12600,  960, 1455, 735}, "Computer's Cards", handCaption);
   design(t.handCaptions[1],    {12600, 9480, 1455, 495}, "Your Cards",       handCaption);
+  place(t.captionSpares[0],    {12067,     0, 3600, 480});
+  place(t.captionSpares[1],    {12127, 10275, 3600, 370});
+  t.handCaptions[0].spare = &t.captionSpares[0];
+  t.handCaptions[1].spare = &t.captionSpares[1];
   design(t.leftGuides[0],   6240, 4680,   360, 1560, darkBlue, 5);
   design(t.leftGuides[1],   6240, 6360,   360, 3240, darkBlue, 5);
   design(t.rightGuides[0],  7920, 6360, 14760, 9240, darkBlue, 5);

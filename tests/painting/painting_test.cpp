@@ -30,16 +30,10 @@ bool hasColor(const QImage& before, const QImage& after, const Color& color) {
   return false;
 }
 
-/// The box around a line, or a box itself.
-Shape boxOf(const Control& control) {
+Shape boxAround(const Line& line) {
   Shape box;
-  box.parent = control.parent;
-  box.pinned = control.pinned;
-  if (control.kind != ControlKind::Line) {
-    static_cast<Box&>(box) = static_cast<const Box&>(control);
-    return box;
-  }
-  const auto& line = static_cast<const Line&>(control);
+  box.parent = line.parent;
+  box.pinned = line.pinned;
   box.left = std::min(line.x1, line.x2);
   box.top = std::min(line.y1, line.y2);
   box.width = std::abs(line.x2 - line.x1);
@@ -143,7 +137,10 @@ class Alone {
       return;
     }
     const double ratio = window_.devicePixelRatioF();
-    const QRect place = window_.canvas().placeOf(boxOf(control));
+    const Canvas& canvas = window_.canvas();
+    const QRect place = control.kind == ControlKind::Line
+                            ? canvas.placeOf(boxAround(static_cast<const Line&>(control)))
+                            : canvas.placeOf(static_cast<const Box&>(control));
     const QRect box(place.topLeft() * ratio, place.size() * ratio);
     EXPECT_TRUE(grown(box, room(control, box, ratio)).contains(found));
     // A text need not fill its label; what is drawn on a card ends with the card.

@@ -99,6 +99,13 @@ TEST(Picture, KeepsPanelsOffWhatMustBeRead) {
       });
       EXPECT_EQ(picture.back().control, &w.status);
       EXPECT_EQ(picture.back().room, picture.back().place);
+      EXPECT_FALSE(ground.meets(picture.back().place));
+      for (const Side owner : {Side::Computer, Side::Player}) {
+        const auto& [heading, count] = w.table.cardsLeft[owner];
+        const Dots caption = views.placeOf(w.table.handCaptions[owner == Side::Player ? 1 : 0]);
+        const Dots theirs = views.placeOf(heading).joined(views.placeOf(count));
+        EXPECT_TRUE(caption.width >= 66 * ratio || !caption.meets(theirs));
+      }
     }
   }
 }
