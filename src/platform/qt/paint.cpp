@@ -186,15 +186,15 @@ void paintLook(QPainter& painter, const Item& item, const Label& label) {
 }
 
 void paintButtonGround(QPainter& painter, const QPushButton& widget, const QRectF& place,
-                       const QColor& color) {
-  const double ratio = widget.devicePixelRatioF();
+                       const QColor& color, const View& view) {
   QLinearGradient ground(place.topLeft(), place.bottomLeft());
   ground.setColorAt(0, widget.isDown() ? color.darker(115) : color.lighter(112));
   ground.setColorAt(1, color.darker(widget.isDown() ? 108 : 104));
   const auto edge = [&](double width, const QColor& edgeColor) {
-    const double half = View::plain(ratio).border(width) / 2.0;
+    const double half = view.border(width) / 2.0;
     painter.setPen(QPen(edgeColor, 2 * half));
-    painter.drawRoundedRect(place.adjusted(half, half, -half, -half), 3 * ratio, 3 * ratio);
+    const double corner = view.length(3);
+    painter.drawRoundedRect(place.adjusted(half, half, -half, -half), corner, corner);
   };
   painter.setBrush(ground);
   edge(1, color.darker(180));
@@ -230,14 +230,14 @@ void paintButton(QPushButton& widget, const Button& button, const View& view) {
   painter.setRenderHint(QPainter::Antialiasing);
   const double ratio = widget.devicePixelRatioF();
   const QRectF place(0, 0, std::floor(widget.width() * ratio), std::floor(widget.height() * ratio));
-  paintButtonGround(painter, widget, place, toColor(button.backColor));
+  const View own = View::plain(std::max(view.length(1), ratio));
+  paintButtonGround(painter, widget, place, toColor(button.backColor), own);
   painter.setPen(widget.isEnabled()
                      ? toColor(button.foreColor)
                      : widget.palette().color(QPalette::Disabled, QPalette::ButtonText));
-  const int margin = View::plain(ratio).border(2);
+  const int margin = own.border(2);
   const QRect room = place.toRect().adjusted(margin, 0, -margin, 0);
-  // A button that became small with the table has room for more than a caption in proportion.
-  const QFont font = toFont(button.font, std::max(view.length(1), ratio));
+  const QFont font = toFont(button.font, view.length(1));
   const int smallest = View::plain(ratio).border(smallestType);
   write(painter, room, letteringFor(room, widget.text(), font, smallest, Alignment::Centre));
 }
