@@ -75,7 +75,7 @@ class Glides : public testing::Test {
 };
 
 // One after the other, and a card looks as it lay until its own way begins. A key puts all in
-// place.
+// place, and so does another size of the window.
 TEST_F(Glides, ShowOneCardAfterTheOther) {
   const Seen before = seen(first);
   const Seen covered = seen(second);
@@ -93,13 +93,16 @@ TEST_F(Glides, ShowOneCardAfterTheOther) {
   EXPECT_EQ(seen(second).second, "4");
   pass(100);
   EXPECT_EQ(seen(second), laid(second));
-  w.card(first).frame.top = 7000;
-  lay();
-  pass(50);
-  EXPECT_NE(seen(first), laid(first));
-  QKeyEvent key(QEvent::KeyPress, Qt::Key_Shift, Qt::ShiftModifier);
-  QCoreApplication::sendEvent(&table.windowOf(w.form), &key);
-  EXPECT_EQ(seen(first), laid(first));
+  FormWindow& window = table.windowOf(w.form);
+  for (const bool byKey : {true, false}) {
+    w.card(first).frame.top = 7000;
+    lay();
+    pass(50);
+    EXPECT_NE(seen(first), laid(first));
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_Shift, Qt::ShiftModifier);
+    byKey ? (void)QCoreApplication::sendEvent(&window, &key) : window.resize(900, 600);
+    EXPECT_EQ(seen(first), laid(first));
+  }
 }
 
 /// The setting service of a desktop.

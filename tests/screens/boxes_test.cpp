@@ -15,6 +15,7 @@ namespace {
 class Boxes : public testing::Test {
  protected:
   Boxes() {
+    form_.caption = "Zub";
     form_.maximized = true;
     form_.width = 12345;
     form_.height = 6855;
@@ -30,6 +31,7 @@ class Boxes : public testing::Test {
       image = box.grab().toImage();
       const QRect room = box.screen()->availableGeometry();
       EXPECT_EQ(box.frameGeometry().united(room), room);
+      EXPECT_EQ(box.windowTitle(), "Zub");
       ok_ = box.findChild<QPushButton*>()->size();
       box.close();
     });

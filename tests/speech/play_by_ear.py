@@ -17,7 +17,7 @@ from gi.repository import Atspi, GLib  # noqa: E402
 EVENTS = "object:state-changed:focused", "object:property-change", "object:children-changed"
 LISTS = "Your cards", "Computer's cards", "Table", "Score"
 OPENING = [  # a key, and how what is then heard begins
-    (None, "OK"), ("Delete", "Enter closes the message. "), (None, "OK"), ("Return", "New game. "),
+    (None, "OK"), ("Delete", "Enter closes the message. "), ("Return", "New game. "),
     ("F10", "File"), ("Down", "Player Level"), ("Right", "Level 1"), ("Escape", "Player Level"),
     ("Escape", "File"), ("Escape", "Your Turn. ")]
 
@@ -69,6 +69,12 @@ class Player:
             self.news.clear()
             GLib.MainContext.default().iteration(True)
         words = self.news.pop(0)
+        if words == "OK":  # what its window has to say follows
+            nothing = GLib.timeout_add(1000, self.news.append, "OK")
+            while not self.news:
+                GLib.MainContext.default().iteration(True)
+            if (words := self.news.pop(0)) != "OK":
+                GLib.source_remove(nothing)
         if words == self.heard[-1]:
             self.fail(f"{words!r} is said twice")
         self.heard.append(words)
@@ -93,7 +99,7 @@ class Player:
     def answer_to(words):
         if choice := re.search(r"Mevra (\d) or Mevra", words):
             return choice[1]
-        if words == "OK" or re.search(r", fits .*\. $", words):
+        if words == "OK" or "Enter presses OK" in words or re.search(r", fits .*\. $", words):
             return "Return"
         return "p" if re.search(r"does not fit\. $|is selected|Your Turn", words) else None
 

@@ -1,6 +1,5 @@
 #include "platform/qt/voice.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QFocusEvent>
 #include <QTimer>
@@ -48,16 +47,20 @@ void Voice::writeNews() {
     std::swap(places_[0], places_[1]);
   }
   waiting_ = true;
-  if (const QString news = toText(speech_.news); places_[0]->accessibleName() != news) {
-    places_[0]->setAccessibleName(news);
-  }
+  QString news = toText(speech_.news);
+  // A reader takes a part with the same words for the one that it has just read.
+  if (news == places_[1]->accessibleName()) news += ' ';
+  if (places_[0]->accessibleName() != news) places_[0]->setAccessibleName(news);
   canvas_.setFocusProxy(places_[0]);
   places_[0]->setFocusPolicy(canvas_.focusPolicy());
 }
 
 bool Voice::eventFilter(QObject* watched, QEvent* event) {
   if (watched == &canvas_) {
-    if (event->type() == QEvent::WindowActivate) speakSoon();
+    if (event->type() == QEvent::WindowActivate) {
+      activeSince_.start();
+      speakSoon();
+    }
     if (event->type() == QEvent::WindowDeactivate) newsFollows_ = isBehindAnother();
   } else if (watched == places_[0] && event->type() == QEvent::FocusIn) {
     keyboardCame(static_cast<QFocusEvent&>(*event));
@@ -81,6 +84,13 @@ bool Voice::isBehindAnother() const {
 }
 
 void Voice::speak() {
+  // A window manager may give a new window the keyboard, take it away and give it again; a reader
+  // would then drop what it was told in between.
+  constexpr int settling = 200;  // ms
+  if (activeSince_.isValid() && !activeSince_.hasExpired(settling)) {
+    QTimer::singleShot(settling, this, [this] { speak(); });
+    return;
+  }
   bool lineDue = std::exchange(lineDue_, false) && places_[0]->hasFocus();
   if (lineDue && keyboard_ != nullptr) {
     keyboard_->setFocus(Qt::OtherFocusReason);  // it may have gone on to a widget meanwhile
@@ -90,9 +100,6 @@ void Voice::speak() {
   if ((!waiting_ && !lineDue) || !hasTheWord) return;
   if (!waiting_) places_[0]->setAccessibleName(toText(speech_.line));
   reportFocus(*places_[0]);
-  // A scroll bar would tell its number after the news that tells it.
-  const bool atButton = qobject_cast<QAbstractButton*>(keyboard_) != nullptr;
-  if (atButton && keyboard_->hasFocus()) reportFocus(*keyboard_);
   if (std::exchange(waiting_, false)) speech_.unsaid = false;
 }
 

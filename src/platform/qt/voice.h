@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QPointer>
 #include <array>
@@ -11,7 +12,8 @@ namespace mevracard {
 /// Hands a window's speech on to assistive technology. What is asked for stands in the accessible
 /// tree below the canvas. A screen reader says what the keyboard comes to, and nothing that changes
 /// where it is: so the news stands in turn at two places that nobody sees. They have the keyboard
-/// for the canvas; where a widget has it, it is reported at the place, and back at a button.
+/// for the canvas; where a widget has it, it is reported at the place and not back, which a reader
+/// would take for more important than the news that it has just begun.
 class Voice final : public QObject {
  public:
   Voice(Speech& speech, QWidget& canvas);
@@ -40,6 +42,7 @@ class Voice final : public QObject {
   bool lineDue_ = false;                ///< the keyboard came back to where the news was
   bool newsFollows_ = true;             ///< it was away at a window of the game, or never here
   QPointer<QWidget> keyboard_;
+  QElapsedTimer activeSince_;
 };
 
 }  // namespace mevracard
