@@ -88,7 +88,7 @@ std::string News::situation(const Game& game, const TableState& state, const Tol
     return told_.size ? std::to_string(*now.size) + ". " : panelWords(state);
   }
   if (now.over) return "";
-  if (now.pass) return told_.pass ? "" : passWords();
+  if (now.pass) return told_.pass ? "" : passWords(state);
   if (now.choice) return now.choice == told_.choice ? "" : choiceWords(game, state);
   if (now.shown) return now.shown == told_.shown ? "" : shownCard(game, state.demo.card);
   return laid_ || now.announcement != told_.announcement ? turnWords(state) : "";

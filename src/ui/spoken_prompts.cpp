@@ -47,8 +47,10 @@ std::string choiceWords(const Game& game, const TableState& state) {
          std::to_string(game.chain.openNumber[End::LeftBottom]) + "? Type the number, or Escape. ";
 }
 
-std::string passWords() {
-  return "You pass: no card of yours fits. Enter presses OK, then the computer moves again. ";
+std::string passWords(const TableState& state) {
+  return std::string("You pass: no card of yours fits. Enter presses OK, then ") +
+         (state.tutorial.running ? "Next shows the computer's move. "
+                                 : "the computer moves again. ");
 }
 
 std::string shownCard(const Game& game, int slot) {
@@ -80,7 +82,7 @@ std::string resultWords(const Game& game) {
 }
 
 std::string prompt(const Game& game, const TableState& state) {
-  if (state.passAwaitsOk) return passWords();
+  if (state.passAwaitsOk) return passWords(state);
   if (state.choiceOpen) return choiceWords(game, state);
   if (state.sizePanelOpen) return panelWords(state);
   if (game.ending.over) return "The game is over. F10 opens the menu: File, New Game. ";

@@ -17,7 +17,7 @@ namespace mevracard {
 [[nodiscard]] std::string choiceWords(const Game& game, const TableState& state);
 
 /// The player's pass, which waits for OK.
-[[nodiscard]] std::string passWords();
+[[nodiscard]] std::string passWords(const TableState& state);
 
 /// The card of the demonstrated move: "Shown: 3-5. Its 5 fits the 5 at Right/Top. "
 [[nodiscard]] std::string shownCard(const Game& game, int slot);

@@ -217,7 +217,7 @@ void FormWindow::passKeyboardOn() {
 }
 
 void FormWindow::keyPressEvent(QKeyEvent* event) {
-  const int key = keyCodeOf(*event);
+  const int key = isMenuInUse() ? 0 : keyCodeOf(*event);
   if (key == 0 || !form_.enabled || (key == keyEscape && escape())) return;
   deliver_(keyEvent(form_, key));
 }
