@@ -42,15 +42,15 @@ void makeFilesAnew(MainWindow& w) {
 }
 
 void takeDefaults(MainWindow& w) {
+  // QUIRK-38: one file that cannot be read resets the other as well. One would expect the
+  // statistics to survive a torn settings file; the player starts from no games.
+  makeFilesAnew(w);
   // QUIRK-24: the level fields stay empty after the files were made, so that the next level
   // command writes a torn line, which is then refused. One would expect both to be 1; the player's
   // first choice of a level does not take and resets both files again.
   w.state.savedLevels = {};
   w.game.levels.player = 1;
   w.game.levels.computer = 1;
-  // QUIRK-38: one file that cannot be read resets the other as well. One would expect the
-  // statistics to survive a torn settings file; the player starts from no games.
-  makeFilesAnew(w);
 }
 
 }  // namespace
