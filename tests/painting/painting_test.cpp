@@ -178,6 +178,11 @@ TEST(Painting, ShowsEachControlInItsPlace) {
   EXPECT_EQ(unseen, (std::set<std::string>{"additional", "hilang", "kotak(0)", "mulai"}));
 }
 
+void type(QWidget& window, int code, Qt::KeyboardModifiers with = {}) {
+  QKeyEvent key(QEvent::KeyPress, code, with, code == Qt::Key_P ? "p" : "");
+  QCoreApplication::sendEvent(&window, &key);
+}
+
 /// Compares a whole window with its record, which is made anew from what lies in the build folder.
 void expectRecorded(Table& table, const Form& form, const std::string& name) {
   SCOPED_TRACE("if this is meant: cp build/*/tests/" + name + " " MEVRACARD_PICTURES);
@@ -200,11 +205,7 @@ TEST(Painting, IsAsRecorded) {
   if (qgetenv("QT_SCALE_FACTOR") != "1" || qVersion() != std::string("6.4.2")) GTEST_SKIP();
   Table table("2/1/99");
   MainWindow& w = table.w;
-  const auto type = [&](int code, const char* text) {
-    QKeyEvent key(QEvent::KeyPress, code, Qt::NoModifier, text);
-    QCoreApplication::sendEvent(&table.windowOf(w.form), &key);
-  };
-  type(Qt::Key_P, "p");
+  type(table.windowOf(w.form), Qt::Key_P);
   expectRecorded(table, w.form, "turn.png");
   w.choice.show(true);
   table.choose(w.menu.tips);
@@ -280,11 +281,6 @@ TEST(Painting, ComesBackToTheSameTable) {
     EXPECT_TRUE(picture[i].place.grown(1).holds(fresh[i].place));
     EXPECT_TRUE(fresh[i].place.grown(1).holds(picture[i].place));
   }
-}
-
-void type(QWidget& window, int code, Qt::KeyboardModifiers with = {}) {
-  QKeyEvent key(QEvent::KeyPress, code, with, code == Qt::Key_P ? "p" : "");
-  QCoreApplication::sendEvent(&window, &key);
 }
 
 // A shortcut of the system's is no key of the game, and after the end no key is.

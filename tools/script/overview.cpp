@@ -125,7 +125,6 @@ std::string digest(Session& session) {
   Lines lines = overview(session);
   for (const Glide& glide : session.desktop.glided) lines.push_back(glideText(glide));
   for (const Glide& glide : session.window().form.glides) lines.push_back(glideText(glide));
-  session.desktop.glided.clear();
   std::uint32_t hash = 2166136261U;  // FNV-1a
   for (const std::string& line : lines) {
     for (const char c : line) hash = (hash ^ static_cast<unsigned char>(c)) * 16777619U;

@@ -42,6 +42,7 @@ void Session::joinPlayCard() {
 
 void Session::tellState(std::string_view why) {
   if (watched && names_) print("state " + digest(*this) + " " + std::string(why));
+  desktop.glided.clear();
 }
 
 MainWindow& Session::window() {

@@ -8,12 +8,32 @@
 
 namespace mevracard::script {
 
+/// Keeps the glides of the main window, which a desktop clears as it shows them.
+class GlideKeeper final : public HeadlessDesktop {
+ public:
+  using HeadlessDesktop::HeadlessDesktop;
+
+  std::vector<Glide> glided;
+
+  void attach(std::vector<Form*> forms, std::function<void(const Event&)> handler) override {
+    main_ = forms.front();
+    HeadlessDesktop::attach(std::move(forms), std::move(handler));
+  }
+  void present() override {
+    glided.insert(glided.end(), main_->glides.begin(), main_->glides.end());
+    HeadlessDesktop::present();
+  }
+
+ private:
+  const Form* main_ = nullptr;
+};
+
 /// One world with the program that runs in it. What reaches the outside world is printed.
 class Session {
  public:
   Session();
 
-  HeadlessDesktop desktop;
+  GlideKeeper desktop;
   bool watched = false;  ///< whether `tellState` prints anything
 
   /// Starts the program anew in this world; it must not be running.

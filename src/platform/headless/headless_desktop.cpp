@@ -15,10 +15,7 @@ void HeadlessDesktop::attach(std::vector<Form*> forms, std::function<void(const 
 }
 
 void HeadlessDesktop::present() {
-  for (Form* form : forms_) {
-    if (sink_) glided.insert(glided.end(), form->glides.begin(), form->glides.end());
-    form->glides.clear();
-  }
+  for (Form* form : forms_) form->glides.clear();
   if (speaks()) speak();
 }
 

@@ -25,7 +25,6 @@ class HeadlessDesktop : public Desktop {
   explicit HeadlessDesktop(Sink sink = {}) : sink_(std::move(sink)) {}
 
   World world;
-  std::vector<Glide> glided;  ///< all that a script was shown; it may clear them
 
   // What a player does. Each calls the event handler once if it is possible. A click or
   // double-click is that event alone; a mouse-down also moves the focus, as the press of a mouse
