@@ -1,13 +1,13 @@
 #include "script/overview.h"
 
 #include <array>
-#include <cstdint>
 #include <cstdio>
 
 #include "platform/picture.h"
 #include "script/fields.h"
 #include "script/properties.h"
 #include "script/values.h"
+#include "simulate/signature.h"
 
 namespace mevracard::script {
 
@@ -125,12 +125,13 @@ std::string digest(Session& session) {
   Lines lines = overview(session);
   for (const Glide& glide : session.desktop.glided) lines.push_back(glideText(glide));
   for (const Glide& glide : session.window().form.glides) lines.push_back(glideText(glide));
-  std::uint32_t hash = 2166136261U;  // FNV-1a
+  simulate::Signature signature;
   for (const std::string& line : lines) {
-    for (const char c : line) hash = (hash ^ static_cast<unsigned char>(c)) * 16777619U;
+    for (const char c : line) signature.fold(static_cast<unsigned char>(c));
   }
   std::array<char, 5> digits{};
-  std::snprintf(digits.data(), digits.size(), "%04x", (hash >> 16U ^ hash) & 0xffffU);
+  std::snprintf(digits.data(), digits.size(), "%04x",
+                static_cast<unsigned>(signature.value() >> 48U));
   return digits.data();
 }
 
